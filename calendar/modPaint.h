@@ -1,0 +1,66 @@
+// What all calendar views share in drawing: the months on display, the painting of one day, the colour each cell has.
+#pragma once
+
+#include <array>
+#include <vector>
+
+#include "calendar/modGrid.h"
+#include "forms/canvas.h"
+
+/// One month on display: one in the one-month view, six, or twelve.
+struct ShownMonth {
+    Canvas* canvas = nullptr;
+    int year = 0;
+    int month = 0;         // 0..11
+    Year slot = ThisYear;  // whose tables hold the month
+    /// The colour last painted in each cell, by column and row; what the hover looks up. 0 where none was painted.
+    std::array<std::array<Color, RowsInGrid>, ColumnsInGrid> painted{};
+};
+
+/// How the view shows its days.
+enum class DayStyle {
+    Number,  // one month: the number itself in the colour
+    Box      // six months and a year: a box in the colour, the number on it
+};
+
+/// The 31 days of the one-month view: whether the number was printed, and its colour.
+struct DayPaintEntry {
+    bool painted = false;
+    Color color = 0;
+};
+
+struct PaintState {
+    std::vector<ShownMonth> shownMonths;
+    DayStyle style = DayStyle::Box;
+    bool numbersOffset = false;  // "Show Numbers Offset"
+    Font gridFont;               // of the numbers and headers of small grids
+    Color markTextColor = Black;
+    std::array<DayPaintEntry, 31> dayPaint{};
+};
+extern PaintState Paint;
+
+inline auto& ShownMonths = Paint.shownMonths;
+inline auto& DayPaint = Paint.dayPaint;  // [day - 1]
+inline Color& MarkTextColor = Paint.markTextColor;
+
+/// The scale of a month's picture: seven columns; a header of 0.75 and six rows.
+inline constexpr double GridWidth = 7;
+inline constexpr double GridHeight = 6.75;
+
+/// Sets MarkTextColor to the colour of a number printed over the fill colour. Of the 17 colours it knows; for any other
+/// MarkTextColor keeps its value.
+void ContrastColor(Color color);
+
+/// Paints the cell's day on every shown month of that slot: fill 0 gives a white box with a black number, or a black
+/// number in the one-month view. `day` is the number printed, 1..31.
+void PaintDay(Year slot, Cell cell, int day, Color fill);
+
+/// The shown month of a slot's month index; null if it is not on display.
+ShownMonth* FindShownMonth(Year slot, int month);
+
+/// Prints the header with the weekdays' first `letters` letters at height `y`, and the grid's lines.
+void DrawMonthHeader(Canvas& canvas, int letters, double y, const Font& font);
+
+/// The cell of a point in a month's picture: column and row by rounding to the nearest whole, halves to the even one.
+/// Outside 0..6 and 0..5 the cell is not valid.
+Cell CellAtPoint(int month, double x, double y);

@@ -1,0 +1,31 @@
+# The two libraries: what knows no window (base/, mod files) and what is windows (forms/qt/, frm files).
+set(FLOORS calendar marks notes reminders tools shell)
+
+# Collects the sources of all floors whose file names begin with PREFIX into RESULT.
+function(floor_sources PREFIX RESULT)
+  set(patterns)
+  foreach(floor IN LISTS FLOORS)
+    list(APPEND patterns ${CMAKE_SOURCE_DIR}/${floor}/${PREFIX}*.cpp ${CMAKE_SOURCE_DIR}/${floor}/${PREFIX}*.h)
+  endforeach()
+  file(GLOB found CONFIGURE_DEPENDS ${patterns})
+  set(${RESULT} ${found} PARENT_SCOPE)
+endfunction()
+
+function(add_floor_libraries)
+  floor_sources(mod core)
+  file(GLOB foundation CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/base/*.cpp ${CMAKE_SOURCE_DIR}/base/*.h
+       ${CMAKE_SOURCE_DIR}/forms/*.cpp ${CMAKE_SOURCE_DIR}/forms/*.h)
+  add_library(tasmoro_core STATIC ${foundation} ${core})
+  target_link_libraries(tasmoro_core PUBLIC tasmoro_options)
+  if(NOT TASMORO_WINDOWS)
+    return()
+  endif()
+  find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets PrintSupport)
+  floor_sources(frm windows)
+  file(GLOB toolkit CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/forms/qt/*.cpp ${CMAKE_SOURCE_DIR}/forms/qt/*.h)
+  add_library(tasmoro_windows STATIC ${toolkit} ${windows})
+  set_target_properties(tasmoro_windows PROPERTIES AUTOMOC ON)
+  target_link_libraries(tasmoro_windows PUBLIC tasmoro_core Qt6::Widgets Qt6::PrintSupport)
+  target_compile_definitions(tasmoro_windows PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
+  target_precompile_headers(tasmoro_windows PRIVATE <QtWidgets>)
+endfunction()

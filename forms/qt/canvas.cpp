@@ -1,0 +1,241 @@
+// The canvas on the screen. Lines and boxes are filled rectangles; words are drawn once per font, colour and scaling
+// and then copied: a year shows the same 31 numbers and seven day names twelve times.
+#include "forms/qt/canvas.h"
+
+#include <QCache>
+#include <QFontMetricsF>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <cmath>
+
+#include "base/errors.h"
+#include "forms/qt/text.h"
+
+QColor FromColor(Color color) {
+    return {static_cast<int>(color & 0xFF), static_cast<int>((color >> 8) & 0xFF),
+            static_cast<int>((color >> 16) & 0xFF)};
+}
+
+Color ToColor(const QColor& color) {
+    return static_cast<Color>(color.red()) | static_cast<Color>(color.green()) << 8 |
+           static_cast<Color>(color.blue()) << 16;
+}
+
+QFont FromFont(const Font& font) {
+    // Faces with Arial's metrics, by their names on the systems there are.
+    static const QStringList Arial{QStringLiteral("Arial"), QStringLiteral("Liberation Sans"),
+                                   QStringLiteral("Helvetica")};
+    QFont shown(font.family == "MS Sans Serif" || font.family == "Arial" ? Arial
+                                                                         : QStringList(FromText(font.family)) + Arial);
+    // One point is 4/3 of a logical pixel whatever the screen claims of itself: positions are given at 96 to the inch.
+    shown.setPixelSize(std::max(1, static_cast<int>(std::lround(font.points * 4 / 3))));
+    shown.setBold(font.bold);
+    shown.setUnderline(font.underlined);
+    return shown;
+}
+
+namespace {
+struct WordKey {
+    QString word;
+    Font font;
+    Color color;
+    double ratio;
+    bool operator==(const WordKey&) const = default;
+};
+
+size_t qHash(const WordKey& key, size_t seed) {
+    return qHashMulti(seed, key.word,
+                      QByteArray::fromRawData(key.font.family.data(), static_cast<qsizetype>(key.font.family.size())),
+                      key.font.points, key.font.bold, key.color, key.ratio);
+}
+
+struct Word {
+    QImage image;
+    QPoint offset;  // of the image's corner from the text's corner, device pixels
+};
+
+struct FontFacts {
+    QFontMetricsF metrics;
+    QHash<std::string, double> widths;
+};
+
+/// The measures of a font, kept: a month asks for the same ones again and again.
+FontFacts& FactsOf(const Font& font) {
+    static QHash<std::string, std::shared_ptr<FontFacts>> known;
+    const std::string key =
+        font.family + '|' + std::to_string(font.points) + (font.bold ? 'b' : ' ') + (font.underlined ? 'u' : ' ');
+    auto& facts = known[key];
+    if (!facts) facts = std::make_shared<FontFacts>(FontFacts{QFontMetricsF(FromFont(font)), {}});
+    return *facts;
+}
+
+Word DrawnWord(const WordKey& key) {
+    const QFont font = FromFont(key.font);
+    const QFontMetricsF metrics(font);
+    // Room around the text for strokes that reach over its box.
+    const QRectF ink = QRectF(0, 0, metrics.horizontalAdvance(key.word), metrics.height()).adjusted(-2, -1, 2, 1);
+    Word word;
+    word.image = QImage((ink.size() * key.ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
+    word.image.fill(Qt::transparent);
+    word.image.setDevicePixelRatio(key.ratio);
+    word.offset = (ink.topLeft() * key.ratio).toPoint();
+    QPainter painter(&word.image);
+    painter.setFont(font);
+    painter.setPen(FromColor(key.color));
+    painter.drawText(QPointF(-ink.left(), -ink.top() + metrics.ascent()), key.word);
+    painter.end();
+    word.image.setDevicePixelRatio(1);
+    return word;
+}
+
+const Word& WordFor(const WordKey& key) {
+    constexpr int Budget = 8 * 1024 * 1024;  // bytes of pictures kept
+    static QCache<WordKey, Word> words(Budget);
+    if (const Word* known = words.object(key)) return *known;
+    auto* drawn = new Word(DrawnWord(key));
+    static Word tooLarge;
+    tooLarge = *drawn;
+    words.insert(key, drawn, static_cast<int>(drawn->image.sizeInBytes()));
+    return tooLarge;
+}
+}  // namespace
+
+// -- The picture ----------------------------------------------------------------------------------------------------
+
+void PictureCanvas::resize(QSize size, double pixelRatio) {
+    ratio_ = pixelRatio;
+    image_ = QImage((QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
+    clear();
+}
+
+void PictureCanvas::setScale(double width, double height) {
+    width_ = width;
+    height_ = height;
+}
+
+void PictureCanvas::clear() {
+    image_.fill(Qt::white);
+    changed(image_.rect());
+}
+
+QRect PictureCanvas::deviceRect(double x1, double y1, double x2, double y2) const {
+    const QPoint from(static_cast<int>(std::lround(toX(std::min(x1, x2)))),
+                      static_cast<int>(std::lround(toY(std::min(y1, y2)))));
+    const QPoint to(static_cast<int>(std::lround(toX(std::max(x1, x2)))),
+                    static_cast<int>(std::lround(toY(std::max(y1, y2)))));
+    return {from, to - QPoint(1, 1)};
+}
+
+void PictureCanvas::changed(const QRect& device) { changed_ |= device; }
+
+void PictureCanvas::fillDevice(const QRect& device, Color color) {
+    const QRect rect = device & image_.rect();
+    const QRgb pixel = FromColor(color).rgb();
+    for (int y = rect.top(); y <= rect.bottom(); ++y) {
+        auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
+        std::fill(row + rect.left(), row + rect.right() + 1, pixel);
+    }
+    changed(rect);
+}
+
+void PictureCanvas::fillBox(double x1, double y1, double x2, double y2, Color color) {
+    fillDevice(deviceRect(x1, y1, x2, y2), color);
+}
+
+void PictureCanvas::line(double x1, double y1, double x2, double y2, Color color) {
+    const int width = std::max(1, static_cast<int>(ratio_));
+    if (x1 == x2 || y1 == y2) {
+        QRect rect = deviceRect(x1, y1, x2, y2);
+        if (y1 == y2) rect.setHeight(width);
+        if (x1 == x2) rect.setWidth(width);
+        fillDevice(rect, color);
+        return;
+    }
+    QPainter painter(&image_);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(FromColor(color), width));
+    painter.drawLine(QPointF(toX(x1), toY(y1)), QPointF(toX(x2), toY(y2)));
+    changed(deviceRect(x1, y1, x2, y2).adjusted(-width, -width, width + 1, width + 1));
+}
+
+void PictureCanvas::box(double x1, double y1, double x2, double y2, Color color) {
+    line(x1, y1, x2, y1, color);
+    line(x1, y2, x2, y2, color);
+    line(x1, y1, x1, y2, color);
+    line(x2, y1, x2, y2, color);
+}
+
+void PictureCanvas::text(double x, double y, std::string_view text, const Font& font, Color color) {
+    if (text.empty()) return;
+    const Word& word = WordFor({FromText(text), font, color, ratio_});
+    const QPoint corner(static_cast<int>(std::lround(toX(x))) + word.offset.x(),
+                        static_cast<int>(std::lround(toY(y))) + word.offset.y());
+    QPainter painter(&image_);
+    painter.drawImage(corner, word.image);
+    changed(QRect(corner, word.image.size()));
+}
+
+double PictureCanvas::textWidth(std::string_view text, const Font& font) {
+    FontFacts& facts = FactsOf(font);
+    const std::string key(text);
+    auto known = facts.widths.constFind(key);
+    if (known == facts.widths.constEnd()) {
+        if (facts.widths.size() > 4096) facts.widths.clear();
+        known = facts.widths.insert(key, facts.metrics.horizontalAdvance(FromText(text)));
+    }
+    return *known * ratio_ * width_ / image_.width();
+}
+
+double PictureCanvas::textHeight(const Font& font) {
+    return FactsOf(font).metrics.height() * ratio_ * height_ / image_.height();
+}
+
+void PictureCanvas::picture(double x, double y, double width, double height, const Path& file) {
+    const QImage picture(FromPath(file.string()));
+    if (picture.isNull()) throw Error(std::filesystem::exists(file) ? PathFileAccess : FileNotFound);
+    const QRect place = deviceRect(x, y, x + width, y + height);
+    QPainter painter(&image_);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawImage(place, picture);
+    changed(place);
+}
+
+QRect PictureCanvas::takeChanged() {
+    const QRect device = std::exchange(changed_, QRect());
+    if (device.isEmpty()) return {};
+    const QRectF logical(device.x() / ratio_, device.y() / ratio_, device.width() / ratio_, device.height() / ratio_);
+    return logical.toAlignedRect();
+}
+
+// -- The box --------------------------------------------------------------------------------------------------------
+
+PictureBox::PictureBox(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setMouseTracking(true);
+    canvas_.resize({1, 1}, devicePixelRatioF());
+}
+
+void PictureBox::refresh() { update(canvas_.takeChanged()); }
+
+QPointF PictureBox::toScale(QPointF point) const {
+    return {point.x() * canvas_.scaleWidth() / std::max(1, width()),
+            point.y() * canvas_.scaleHeight() / std::max(1, height())};
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    if (canvas_.image().size() != (QSizeF(size()) * devicePixelRatioF()).toSize()) {
+        canvas_.resize(size(), devicePixelRatioF());
+        Q_EMIT renewed();
+    }
+    QPainter painter(this);
+    const double ratio = devicePixelRatioF();
+    const QRectF source(event->rect().x() * ratio, event->rect().y() * ratio, event->rect().width() * ratio,
+                        event->rect().height() * ratio);
+    painter.drawImage(QRectF(event->rect()), canvas_.image(), source);
+}
+
+void PictureBox::resizeEvent(QResizeEvent*) {
+    canvas_.resize(size(), devicePixelRatioF());
+    Q_EMIT renewed();
+}

@@ -1,0 +1,13 @@
+// List boxes and combo boxes as pictures of tables.
+#pragma once
+
+#include <QListWidget>
+#include <string>
+#include <vector>
+
+/// Shows the entries; of those that stand for records only the visible text. The whole entry stays with its row
+/// (EntryAt). Keeps the current row where it can. Fires no event.
+void ShowEntries(QListWidget* list, const std::vector<std::string>& entries);
+
+/// The whole entry of a row; "" for a row that is not there.
+std::string EntryAt(const QListWidget* list, int row);

@@ -1,0 +1,92 @@
+// What every window does.
+#include "forms/qt/window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QScreen>
+#include <algorithm>
+#include <vector>
+
+namespace {
+std::vector<Window*>& OpenWindows() {
+    static std::vector<Window*> open;
+    return open;
+}
+}  // namespace
+
+Window::Window(const char* name, const QString& caption) {
+    setObjectName(QString::fromLatin1(name));
+    setWindowTitle(caption);
+    setAccessibleName(caption);
+    setAttribute(Qt::WA_DeleteOnClose);
+    OpenWindows().push_back(this);
+}
+
+void Window::closeEvent(QCloseEvent* event) {
+    if (unloaded_) return;
+    if (!queryUnload()) {
+        event->ignore();
+        return;
+    }
+    unloaded_ = true;
+    std::erase(OpenWindows(), this);
+    unload();
+    QWidget::closeEvent(event);
+}
+
+QWidget* windows::find(const std::type_info& type) {
+    for (Window* window : OpenWindows())
+        if (typeid(*window) == type) return window;
+    return nullptr;
+}
+
+void windows::present(QWidget* window) {
+    if (window->isMinimized())
+        window->showNormal();
+    else
+        window->show();
+    window->raise();
+    window->activateWindow();
+}
+
+void UnloadAllWindows(const QWidget* but) {
+    const std::vector<Window*> open = OpenWindows();
+    for (Window* window : open) {
+        if (window == but || std::find(OpenWindows().begin(), OpenWindows().end(), window) == OpenWindows().end())
+            continue;
+        std::erase(OpenWindows(), window);
+        delete window;
+    }
+}
+
+void MakeMeTopmost(QWidget* window) {
+    window->setWindowFlag(Qt::WindowStaysOnTopHint);
+    window->setAttribute(Qt::WA_ShowWithoutActivating);
+    window->show();
+}
+
+void CenterOnScreen(QWidget* window) {
+    if (window->isMinimized()) return;
+    const QRect screen = window->screen()->availableGeometry();
+    window->move(screen.left() + (screen.width() - window->width()) / 2,
+                 screen.top() + (screen.height() - window->height()) / 2);
+}
+
+void PlaceOnScreens(QWidget* window, QRect wanted) {
+    const QScreen* screen = QApplication::screenAt(wanted.center());
+    if (screen == nullptr) screen = QApplication::primaryScreen();
+    const QRect room = screen->availableGeometry();
+    wanted.setSize(wanted.size().boundedTo(room.size()));
+    wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() - wanted.width() + 1));
+    wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() - wanted.height() + 1));
+    window->setGeometry(wanted);
+}
+
+QString ElementName(const char* name, int index) {
+    return QString::fromLatin1(name) + QLatin1Char('(') + QString::number(index) + QLatin1Char(')');
+}
+
+QString WithoutMnemonic(const QString& caption) {
+    QString plain = caption;
+    return plain.remove(QLatin1Char('&'));
+}
