@@ -1,0 +1,217 @@
+// The notes store: its tables, its files, and what must not get lost in them.
+#include "notes/modNotes.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "base/diskio.h"
+#include "marks/modSaveChanges.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+/// A year on display, and an editor that holds a text without a window.
+struct NotesTest : testing::Test {
+    NotesTest() {
+        Calendar.yearOnDisplay = 2026;
+        NoteEditor = {[this](const std::string& caption, const std::string& text) {
+                          shownCaption = caption;
+                          typed = text;
+                          NotesWindowOpen = true;
+                      },
+                      [this] {
+                          if (stays) return false;
+                          NotesWindowOpen = false;
+                          return true;
+                      },
+                      [this] { return refuses ? std::nullopt : std::optional(typed); }};
+    }
+    ~NotesTest() override {
+        NoteEditor = {};
+        SetDisk({});
+    }
+
+    void write(int month, int day, const std::string& text, int year = 2026) {
+        SelectDate(MakeDate(year, month, day));
+        DisplayThisNote();
+        typed = text;
+        NotesChanged = true;
+        boxes.expect("Notes Saved");
+        EXPECT_TRUE(SaveOpenNote());
+    }
+    std::string file(int year = 2026) { return folder.get(std::to_string(year) + "/Notes.dat"); }
+
+    TemporaryFolder folder;
+    ScriptedDialogs boxes;
+    std::string typed;
+    std::string shownCaption;
+    bool stays = false;
+    bool refuses = false;
+};
+
+TEST_F(NotesTest, AreWrittenInDateOrderEachInOneLine) {
+    write(10, 5, "three\r\nlines\r\nof it");
+    write(2, 7, "an earlier one");
+    write(12, 31, "a colon: kept");
+    EXPECT_EQ(file(),
+              "02/07/26:010600:an earlier one\r\n10/05/26:090101:three\xD5\xD2lines\xD5\xD2of it\r\n"
+              "12/31/26:110404:a colon: kept\r\n");
+    SelectDate(MakeDate(2026, 10, 5));
+    DisplayThisNote();
+    EXPECT_EQ(typed, "three\r\nlines\r\nof it");
+    EXPECT_EQ(shownCaption, "Notes for October 05, 2026");
+    EXPECT_TRUE(NoteFlags(9, 1, 1));
+    EXPECT_TRUE(HasNote(MakeDate(2026, 2, 7)));
+    EXPECT_FALSE(HasNote(MakeDate(2026, 2, 8)));
+    EXPECT_EQ(CurrentNote, 1);
+    write(10, 5, "  ");
+    EXPECT_EQ(lstNotes, (std::vector<std::string>{"02/07/26", "12/31/26"}));
+    EXPECT_FALSE(NoteFlags(9, 1, 1));
+}
+
+TEST_F(NotesTest, OfNextYearKeepToTheirOwnFile) {
+    SpansNextYear = true;
+    write(1, 3, "next year", 2027);
+    write(12, 30, "this year");
+    EXPECT_EQ(file(2027), "01/03/27:000001:next year\r\n");
+    EXPECT_EQ(file(2026), "12/30/26:110304:this year\r\n");
+    EXPECT_TRUE(NextNoteFlags(0, 0, 1));
+    EXPECT_EQ(lstNotes2.size(), 1u);
+    write(5, 1, "a year in neither slot", 2031);
+    EXPECT_EQ(file(2031), "05/01/31:040400:a year in neither slot\r\n");
+    EXPECT_EQ(YearOfSlot(ThisYear), 2031);
+}
+
+TEST_F(NotesTest, AreStoredUnderTheDateTheEditorShows) {
+    SelectDate(MakeDate(2026, 3, 4));
+    DisplayThisNote();
+    typed = "of March";
+    SelectDate(MakeDate(2026, 8, 9));  // a click on another day while the editor is open
+    boxes.expect("Notes Saved");
+    EXPECT_TRUE(SaveOpenNote());
+    EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
+}
+
+TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
+    const std::string lines = "03/04/26:020300:first\r\n03/04/26:020300:second\r\n";
+    folder.put("2026/notes.dat", lines);
+    write(1, 1, "x");
+    EXPECT_EQ(folder.get("2026/notes.dat"), "01/01/26:000400:x\r\n" + lines);
+    SelectDate(MakeDate(2026, 3, 4));
+    DisplayThisNote();
+    EXPECT_EQ(typed, "first\r\nsecond");
+    write(3, 4, "one now");
+    EXPECT_EQ(folder.get("2026/notes.dat"), "01/01/26:000400:x\r\n03/04/26:020300:one now\r\n");
+}
+
+TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
+    struct Row {
+        const char* name;
+        std::string line;
+        const char* report;
+    };
+    for (const Row& row :
+         {Row{"short", "03/05/26:0203", "Number: 5"}, Row{"empty", "", "Number: 5"},
+          Row{"no digits", "03/05/26:02ab00:x", "Number: 13"}, Row{"no such cell", "03/05/26:129900:x", "Number: 9"}}) {
+        SCOPED_TRACE(row.name);
+        const std::string before = "03/04/26:020300:before\r\n" + row.line + "\r\n07/04/26:060600:after\r\n";
+        folder.put("2026/Notes.dat", before);
+        boxes.expect(row.report);
+        ReadThisYearsNotes();
+        EXPECT_NE(boxes.shown().back().text.find("line 2 of the file"), std::string::npos);
+        EXPECT_EQ(NoteCount(), 1);
+        SelectDate(MakeDate(2026, 3, 4));
+        DisplayThisNote();
+        boxes.expect("Backup");
+        EXPECT_TRUE(SaveOpenNote());
+        EXPECT_NE(folder.backups().find(before), std::string::npos);
+    }
+}
+
+TEST_F(NotesTest, MarkNoDayForKeysThatAreNoDateOfTheYear) {
+    const std::string lines = "02/30/26:010100:a\r\n03/04/25:020300:b\r\nxx/04/26:020300:c\r\n";
+    folder.put("2026/Notes.dat", lines);
+    ReadThisYearsNotes();
+    ForEachCell([](Cell cell) { EXPECT_FALSE(NoteFlags[cell]); });
+    EXPECT_EQ(NoteCount(), 3);
+    folder.put("2026/Notes.dat", "03/04/26:000000:in the wrong cell\r\n");
+    ReadThisYearsNotes();
+    EXPECT_TRUE(NoteFlags(2, 3, 0));
+    EXPECT_FALSE(NoteFlags(0, 0, 0));
+}
+
+TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
+    write(3, 4, "saved");
+    SelectDate(MakeDate(2026, 3, 4));
+    DisplayThisNote();
+    NotesChanged = true;
+    typed = "\xD2tto";
+    boxes.expect("turn", Answer::No);
+    EXPECT_FALSE(SaveOpenNote());
+    refuses = true;
+    EXPECT_FALSE(SaveOpenNote());
+    refuses = false;
+    typed = "the disk is full";
+    SetDisk({Disk().read, [](const Path&, std::string_view) { throw Error(DiskFull); }, Disk().remove, Disk().rename});
+    boxes.expect("SaveThisYearsNotes");
+    boxes.expect("Error.log");
+    EXPECT_FALSE(SaveOpenNote());
+    EXPECT_TRUE(NotesChanged);
+    EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
+    SetDisk({});
+    typed = "\xD2tto";
+    boxes.expect("turn", Answer::Yes);
+    boxes.expect("Notes Saved");
+    EXPECT_TRUE(SaveOpenNote());
+    EXPECT_FALSE(NotesChanged);
+}
+
+TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
+    folder.put("2026/Notes.dat",
+               "12/01/26:110200:c\r\n03/04/26:020300:a\r\n05/01/26:040500:b\r\n03/04/26:020300:a2\r\n");
+    ReadThisYearsNotes();
+    typed = "open in the editor";
+    boxes.expect("Notes Saved");
+    DeleteNotes(ThisYear, {"03/04/26", "12/01/26"});
+    EXPECT_EQ(file(), "05/01/26:040500:b\r\n");
+    EXPECT_EQ(lstNotes, std::vector<std::string>{"05/01/26"});
+    EXPECT_FALSE(NoteDeletePending);
+}
+
+TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayClose) {
+    write(3, 4, "a");
+    stays = true;
+    SelectDate(MakeDate(2026, 5, 1));
+    DisplayThisNote();
+    EXPECT_EQ(shownCaption, "Notes for March 04, 2026");
+    stays = false;
+    DisplayThisNote();
+    EXPECT_EQ(shownCaption, "Notes for May 01, 2026");
+    EXPECT_EQ(typed, "");
+    EXPECT_EQ(CurrentNote, -1);
+}
+
+TEST_F(NotesTest, AreAskedAboutBeforeTheViewChanges) {
+    write(3, 4, "a");
+    AskAboutOpenNote(false);  // nothing has changed: no question
+    const auto changed = [&](Answer answer) {
+        NotesChanged = true;
+        SaveCancelled = false;
+        boxes.expect("The Notes have been changed", answer);
+    };
+    changed(Answer::Cancel);
+    AskAboutOpenNote(false);
+    EXPECT_TRUE(SaveCancelled && NotesChanged && NotesWindowOpen);
+    changed(Answer::Yes);
+    typed = "\xD5";
+    boxes.expect("turn", Answer::No);
+    AskAboutOpenNote(true);
+    EXPECT_TRUE(SaveCancelled);
+    changed(Answer::No);
+    AskAboutOpenNote(false);
+    EXPECT_FALSE(SaveCancelled || NotesChanged || NotesWindowOpen);
+    EXPECT_EQ(file(), "03/04/26:020300:a\r\n");
+}
+}  // namespace
