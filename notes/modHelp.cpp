@@ -1,0 +1,73 @@
+// Splitting the help file into topics, and searching them.
+#include "notes/modHelp.h"
+
+#include "base/errors.h"
+#include "base/files.h"
+#include "base/modNoCase.h"
+#include "base/state.h"
+#include "base/text.h"
+
+HelpState Help;
+std::function<void()> ShowHelpTopics;
+
+namespace {
+const ClearedAtStart ClearHelp([] { Help = {}; });
+
+/// A file edited elsewhere may end its lines with a bare line feed, or lack the line break altogether: only what is a
+/// line break is taken off, so that no letter of a topic is lost.
+std::string_view WithoutLineBreakInFront(std::string_view text) {
+    if (text.starts_with("\r\n")) return text.substr(2);
+    return text.starts_with('\n') ? text.substr(1) : text;
+}
+
+std::string_view WithoutLineBreakAtEnd(std::string_view text) {
+    if (text.ends_with("\r\n")) return text.substr(0, text.size() - 2);
+    return text.ends_with('\n') ? text.substr(0, text.size() - 1) : text;
+}
+
+void AddTopic(std::string_view raw) {
+    if (Help.titles.size() == MostHelpTopics) throw Error(Overflow);
+    const auto colon = raw.find(':');
+    const bool hasText = colon != std::string_view::npos;
+    Help.rawTopics.emplace_back(raw);
+    Help.titles.emplace_back(raw.substr(0, colon));
+    Help.texts.emplace_back(hasText ? WithoutLineBreakInFront(raw.substr(colon + 1)) : std::string_view());
+}
+
+void SplitTopics(std::string_view all) {
+    for (auto star = all.find('*'); star != std::string_view::npos;) {
+        const auto next = all.find('*', star + 1);
+        const std::string_view raw = all.substr(star + 1, next == std::string_view::npos ? next : next - star - 1);
+        AddTopic(next == std::string_view::npos ? raw : WithoutLineBreakAtEnd(raw));
+        star = next;
+    }
+}
+}  // namespace
+
+void ReadHelpTopics() {
+    Help = {};
+    const std::string all = ReadWholeFile(DataPath("Help_Topics.txt"));
+    try {
+        SplitTopics(all);
+    } catch (const Error&) {
+        if (ShowHelpTopics) ShowHelpTopics();
+        throw;
+    }
+    if (ShowHelpTopics) ShowHelpTopics();
+}
+
+std::optional<HelpHit> FindInHelp(std::string_view phrase) {
+    for (; Help.topic < Help.texts.size(); ++Help.topic, Help.position = 1) {
+        const auto found = FindIgnoringCase(Help.texts[Help.topic], phrase, Help.position - 1);
+        if (found == std::string::npos) continue;
+        Help.position = found + 2;
+        return HelpHit{Help.topic, found};
+    }
+    StartHelpSearchOver();
+    return std::nullopt;
+}
+
+void StartHelpSearchOver() {
+    Help.topic = 0;
+    Help.position = 1;
+}

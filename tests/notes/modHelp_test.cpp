@@ -1,0 +1,68 @@
+// Help topics: what files mean, and the search through them.
+#include "notes/modHelp.h"
+
+#include <gtest/gtest.h>
+
+#include "base/errors.h"
+#include "tests/support/folder.h"
+
+namespace {
+std::string Topics() {
+    std::string all;
+    for (std::size_t i = 0; i < HelpTitles.size(); ++i) all += "[" + HelpTitles[i] + "]" + HelpTexts[i];
+    return all;
+}
+}  // namespace
+
+TEST(Help, FilesAsTheyAreRead) {
+    struct Row {
+        const char* name;
+        std::string file;
+        std::string topics;
+    };
+    for (const Row& row :
+         {Row{"three topics", "*Getting Started:\r\nAt 7:00.\r\nGo.\r\n*Notes:\r\nb\r\n*Last:\r\nc\r\n",
+              "[Getting Started]At 7:00.\r\nGo.[Notes]b[Last]c\r\n"},
+          Row{"bare line feeds", "*A:\na\n*B:\nb", "[A]a[B]b"}, Row{"no topics", "Just a text.\r\n", ""},
+          Row{"no bytes", "", ""}, Row{"text before the first", "Preface\r\n*A:\r\na", "[A]a"},
+          Row{"empty titles", "*:\r\na\r\n*:\r\n*:\r\nc", "[]a[][]c"}, Row{"stars alone", "**\r\n*", "[][][]"},
+          Row{"no colon", "*Lost\r\n*A:\r\na", "[Lost][A]a"}, Row{"text after the colon", "*A: a", "[A] a"}}) {
+        SCOPED_TRACE(row.name);
+        const TemporaryFolder folder;
+        folder.put("Help_Topics.txt", row.file);
+        ReadHelpTopics();
+        EXPECT_EQ(Topics(), row.topics);
+    }
+}
+
+TEST(Help, MissingFileAndTooManyTopicsFail) {
+    const TemporaryFolder folder;
+    int shown = 0;
+    ShowHelpTopics = [&shown] { ++shown; };
+    EXPECT_THROW(ReadHelpTopics(), Error);
+    EXPECT_EQ(shown, 0);
+    std::string many;
+    for (std::size_t i = 0; i <= MostHelpTopics; ++i) many += "*T:\r\n\r\n";
+    folder.put("Help_Topics.txt", many);
+    EXPECT_THROW(ReadHelpTopics(), Error);
+    EXPECT_EQ(HelpTitles.size(), MostHelpTopics);
+    EXPECT_EQ(shown, 1);
+    ShowHelpTopics = {};
+}
+
+TEST(Help, SearchGoesFromHitToHitAndThenBeginsAgain) {
+    const TemporaryFolder folder;
+    folder.put("Help_Topics.txt",
+               "*One:\r\nThe calendar. View it.\r\n*Two:\r\nCALENDAR VIEW, calendar view\r\n*Three:\r\naaa \xC4rger");
+    ReadHelpTopics();
+    for (int times = 0; times < 2; ++times) {
+        EXPECT_EQ(FindInHelp("Calendar View"), (HelpHit{1, 0}));
+        EXPECT_EQ(FindInHelp("Calendar View"), (HelpHit{1, 15}));
+        EXPECT_EQ(FindInHelp("Calendar View"), std::nullopt);
+    }
+    EXPECT_EQ(FindInHelp("AA"), (HelpHit{2, 0}));
+    EXPECT_EQ(FindInHelp("AA"), (HelpHit{2, 1})) << "hits may overlap";
+    StartHelpSearchOver();
+    EXPECT_EQ(FindInHelp("\xE4RGER"), (HelpHit{2, 4})) << "letters with accents ignore case too";
+    EXPECT_EQ(FindInHelp("\xE4RGER"), std::nullopt);
+}

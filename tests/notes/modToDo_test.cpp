@@ -1,0 +1,168 @@
+// The to-do list: what files mean, what a save writes, moving rows, the printed sheet.
+#include "notes/modToDo.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/printer.h"
+#include "forms/recorder.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+const std::string TenRows =
+    "\xF3one\r\n\xF5two\r\n\xF5\r\n\xF3\r\n\xF5 five \r\n\xF5six \xF3 and \xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF3ten\r\n";
+
+/// The texts joined by "|"; a "+" before those that are done.
+std::string Shown(const ToDoColumn<std::string>& texts, const ToDoColumn<bool>& done) {
+    std::string all;
+    for (std::size_t row = 0; row < ToDoRows; ++row)
+        all += (row > 0 ? "|" : "") + std::string(done[row] ? "+" : "") + texts[row];
+    return all;
+}
+std::string Edited() { return Shown(ToDo.editedTexts, ToDo.done); }
+std::string Panel() { return Shown(ToDo.panelTexts, ToDo.panelDone); }
+
+void OpenList() {
+    TaskListOpenRequested = true;
+    ReadToDoList();
+}
+}  // namespace
+
+TEST(ToDo, FilesAsTheyAreRead) {
+    struct Row {
+        const char* name;
+        std::string file;
+        std::string rows;
+        bool tooLong = false;
+        bool backup = false;
+    };
+    const std::string empty10 = "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
+    for (const Row& row :
+         {Row{"ten", TenRows, "+one|two||+| five |six \xF3 and \xF5||||+ten"},
+          Row{"three, the last without an end",
+              "\xF3"
+              "a\n\xF5"
+              "b\n\xF5"
+              "c",
+              "+a|b|c|||||||"},
+          Row{"ten empty lines", empty10, "|||||||||"},
+          Row{"eleven", TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
+          Row{"no mark", "Milk\r\n", "ilk|||||||||", false, true}, Row{"no bytes", "", "|||||||||"}}) {
+        SCOPED_TRACE(row.name);
+        const TemporaryFolder folder;
+        ScriptedDialogs dialogs;
+        folder.put("To Do.dat", row.file);
+        if (row.tooLong) dialogs.expect("ReadToDoList");
+        OpenList();
+        EXPECT_EQ(Edited(), row.rows);
+        EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);
+        dialogs.expect("To Do List Saved.");
+        EXPECT_TRUE(SaveToDoList());
+        EXPECT_EQ(folder.backups(), row.backup ? row.file : "");
+    }
+}
+
+TEST(ToDo, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
+    const TemporaryFolder folder;
+    int shown = 0;
+    ShowToDo = [&shown] { ++shown; };
+    folder.put("To Do.dat", "\xF3 \r\n\xF3two\r\n");
+    ReadToDoList();
+    EXPECT_EQ(Panel(), "+|+two||||||||");
+    folder.put("To Do.dat", "\r\n\r\n");
+    ReadToDoList();
+    EXPECT_EQ(Panel(), "+|+||||||||");
+    std::filesystem::remove(folder.path() / "To Do.dat");
+    ReadToDoList();
+    EXPECT_EQ(Panel(), "|||||||||");
+    EXPECT_EQ(shown, 3);
+    ShowToDo = {};
+}
+
+TEST(ToDo, SavesTheSameBytesAgainAndAgain) {
+    const TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    folder.put("To Do.dat", TenRows);
+    OpenList();
+    ToggleToDoDone(2);
+    EXPECT_FALSE(TaskListChanged) << "a mark alone asks nothing at the end";
+    SetToDoText(1, "two\r\nlines\nmore");
+    EXPECT_TRUE(TaskListChanged);
+    std::string wanted = TenRows;
+    wanted.replace(wanted.find("two\r\n\xF5"), 6, "two lines more\r\n\xF3");
+    for (int times = 0; times < 2; ++times) {
+        dialogs.expect("To Do List Saved.");
+        EXPECT_TRUE(SaveToDoList());
+        EXPECT_EQ(folder.get("To Do.dat"), wanted);
+        EXPECT_FALSE(TaskListChanged);
+    }
+    ReadToDoList();
+    EXPECT_TRUE(Panel().starts_with("+one|two lines more|+|+|")) << Panel();
+}
+
+TEST(ToDo, FailedSaveKeepsTheEditsAndTheFile) {
+    const TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    SetToDoText(0, "typed");
+    std::filesystem::create_directories(folder.path() / "To Do.dat");  // nothing can be written in its place
+    dialogs.expect("SaveToDoList");
+    EXPECT_FALSE(SaveToDoList());
+    EXPECT_TRUE(TaskListChanged);
+    EXPECT_EQ(ToDo.editedTexts[0], "typed");
+}
+
+TEST(ToDo, MovesRowsOnlyIntoAnEmptyOne) {
+    const TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    folder.put("To Do.dat", TenRows);
+    OpenList();
+    EXPECT_FALSE(MoveToDoDown());
+    EXPECT_FALSE(MoveToDoUp());
+    EXPECT_FALSE(TaskListChanged);
+    SetToDoText(9, "");
+    EXPECT_TRUE(MoveToDoDown());
+    EXPECT_EQ(Edited(), "|+one|two||+| five |six \xF3 and \xF5|||");
+    EXPECT_TRUE(MoveToDoUp());
+    EXPECT_EQ(Edited(), "+one|two||+| five |six \xF3 and \xF5||||");
+    EXPECT_FALSE(MoveToDoUp());
+}
+
+TEST(ToDo, PrintsEachControlAtItsPlace) {
+    const TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    ToDoSheet sheet;
+    for (std::size_t row = 0; row < ToDoRows; ++row) {
+        const double top = 600 + 345 * static_cast<double>(row);
+        sheet.mark[row] = {120, top, 240, 240};
+        sheet.number[row] = {480, top, 300, 240};
+        sheet.text[row] = {840, top, 6000, 300};
+    }
+    dialogs.expect("Printer could not be found");
+    PrintToDoList(sheet);
+
+    struct Kept : Recorder {  // the calls outlive the document
+        Kept(std::vector<std::string>& calls) : Recorder(20), all(calls) {}
+        ~Kept() override { all = calls(); }
+        std::vector<std::string>& all;
+    };
+    std::vector<std::string> calls;
+    const auto before = SetPrinter({[] { return std::vector<std::string>{"P"}; }, [](const std::string&) {}, [] {},
+                                    [&](const std::string&) { return std::make_unique<Kept>(calls); }});
+    PrinterAvailable = true;
+    SetToDoText(1, "Water the plants");
+    SetToDoText(2, std::string(200, 'x'));
+    ToggleToDoDone(1);
+    PrintToDoList(sheet);
+    SetPrinter(before);
+    const auto has = [&](const std::string& call) {
+        return std::find(calls.begin(), calls.end(), call) != calls.end();
+    };
+    EXPECT_TRUE(has("text 720 720 'Nov 22, 2026 To Do List' Arial 14 bold 000000"));
+    EXPECT_TRUE(has("box 840 1665 1080 1905 000000"));
+    EXPECT_TRUE(has("text 1200 1665 '2' Arial 10 000000"));
+    EXPECT_TRUE(has("text 1560 1665 'Water the plants' Arial 10 000000"));
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("box"); }), ToDoRows);
+    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("line"); }), 2);
+    EXPECT_TRUE(has("text 1560 2010 '" + std::string(200, 'x') + "' Arial 4.98 000000")) << "fits the page";
+    EXPECT_EQ(calls.back(), "end");
+}
