@@ -11,6 +11,20 @@ function(floor_sources PREFIX RESULT)
   set(${RESULT} ${found} PARENT_SCOPE)
 endfunction()
 
+# With Ninja the meta-object compiler looks at a new header only when an older one changes. So the stamp of its last run
+# is taken away when the list of the sources is another than last time.
+function(moc_anew_when_changed SOURCES)
+  set(list_file ${CMAKE_BINARY_DIR}/window_sources.txt)
+  set(before "")
+  if(EXISTS ${list_file})
+    file(READ ${list_file} before)
+  endif()
+  if(NOT before STREQUAL SOURCES)
+    file(REMOVE ${CMAKE_BINARY_DIR}/tasmoro_windows_autogen/timestamp)
+    file(WRITE ${list_file} "${SOURCES}")
+  endif()
+endfunction()
+
 function(add_floor_libraries)
   floor_sources(mod core)
   file(GLOB foundation CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/base/*.cpp ${CMAKE_SOURCE_DIR}/base/*.h
@@ -25,6 +39,7 @@ function(add_floor_libraries)
   file(GLOB toolkit CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/forms/qt/*.cpp ${CMAKE_SOURCE_DIR}/forms/qt/*.h)
   add_library(tasmoro_windows STATIC ${toolkit} ${windows})
   set_target_properties(tasmoro_windows PROPERTIES AUTOMOC ON)
+  moc_anew_when_changed("${toolkit};${windows}")
   target_link_libraries(tasmoro_windows PUBLIC tasmoro_core Qt6::Widgets Qt6::PrintSupport)
   target_compile_definitions(tasmoro_windows PUBLIC QT_NO_CAST_FROM_ASCII QT_NO_KEYWORDS)
   target_precompile_headers(tasmoro_windows PRIVATE <QtWidgets>)
