@@ -1,0 +1,46 @@
+// Weekdays of a period.
+#include "tools/modNumDays.h"
+
+#include <gtest/gtest.h>
+
+#include "tests/support/folder.h"
+
+TEST(NumDays, CountsBothEnds) {
+    const TemporaryFolder folder;
+    struct Row {
+        const char* start;
+        const char* end;
+        int weekday;
+        const char* text;
+        const char* first;
+        const char* last;
+    };
+    for (const Row& row :
+         {Row{"1/1/2009", "1/31/2009", 0, "Sunday found 4 times", "Sunday 1/4/2009", "Sunday 1/25/2009"},
+          Row{"1/1/2009", "1/31/2009", 4, "Thursday found 5 times", "Thursday 1/1/2009", "Thursday 1/29/2009"},
+          Row{"1/4/2009", "1/4/2009", 0, "Sunday found 1 times", "Sunday 1/4/2009", "Sunday 1/4/2009"},
+          Row{"1/6/2009", "1/7/2009", 1, "Monday found 0 times", "", ""},
+          Row{"1/31/2009", "1/1/2009", 6, "Saturday found 0 times", "", ""},
+          Row{"2/1/2008", "3/7/2009", 5, "Friday found 58 times", "Friday 2/1/2008", "Friday 3/6/2009"},
+          Row{"12/24/9999", "12/31/9999", 5, "Friday found 2 times", "Friday 12/24/9999", "Friday 12/31/9999"}}) {
+        NumDays = {DateOfText(row.start), DateOfText(row.end), row.weekday};
+        const Occurrences found = CountWeekdays();
+        EXPECT_EQ(OccurrencesText(found), row.text) << row.start;
+        EXPECT_EQ(found.entries.empty() ? "" : found.entries.front(), row.first);
+        EXPECT_EQ(found.entries.empty() ? "" : found.entries.back(), row.last);
+        EXPECT_FALSE(found.tooMany);
+    }
+}
+
+TEST(NumDays, StopsAtTheMostTheListShows) {
+    const TemporaryFolder folder;
+    const Date monday = MakeDate(1500, 1, 1);
+    for (const int more : {0, 1}) {
+        NumDays = {monday, monday + 7 * (MostOccurrences - 1 + more), WeekdayOf(monday) - 1};
+        const Occurrences found = CountWeekdays();
+        EXPECT_EQ(found.tooMany, more == 1);
+        ASSERT_EQ(found.entries.size(), 31999U);
+        for (int week = 0; week < MostOccurrences; ++week)
+            ASSERT_EQ(found.entries[static_cast<std::size_t>(week)], "Monday " + ShortDate(monday + 7 * week));
+    }
+}
