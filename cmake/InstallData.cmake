@@ -1,0 +1,20 @@
+# Run by the installation: puts each file and each folder of DATA beside the program, unless one of that name is there,
+# in upper or lower case. A folder counts as a whole: what its user has deleted from it does not come back.
+cmake_policy(VERSION 3.25)
+set(target "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}")
+file(GLOB there RELATIVE "${target}" "${target}/*")
+list(TRANSFORM there TOLOWER)
+file(GLOB entries RELATIVE "${DATA}" "${DATA}/*")
+foreach(entry IN LISTS entries)
+  string(TOLOWER "${entry}" name)
+  # What the data is made from is no data.
+  if(entry MATCHES "^CMakeLists\\.txt$|\\.py$|\\.cpp$" OR EXISTS "${DATA}/${entry}/CMakeLists.txt")
+    continue()
+  elseif(name IN_LIST there OR EXISTS "${target}/${entry}")
+    message(STATUS "Left as it is: ${target}/${entry}")
+  elseif(IS_DIRECTORY "${DATA}/${entry}")
+    file(INSTALL "${DATA}/${entry}" DESTINATION "${CMAKE_INSTALL_PREFIX}" TYPE DIRECTORY USE_SOURCE_PERMISSIONS)
+  else()
+    file(INSTALL "${DATA}/${entry}" DESTINATION "${CMAKE_INSTALL_PREFIX}" TYPE FILE)
+  endif()
+endforeach()
