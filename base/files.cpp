@@ -141,9 +141,8 @@ std::string CopyToBackup(const Path& path) {
         const Path copy = FreeBackupName(folder, path);
         WriteWholeFile(copy, bytes);
         if (ReadWholeFile(copy) != bytes) throw Error(DeviceIoError);
-        return "The file \"" + TextOfUtf8(path.filename().string()) +
-               "\" held something that was not read. It was kept as \"" + TextOfUtf8(copy.filename().string()) +
-               "\" in the folder \"Backup\".";
+        return "The file \"" + TextOfUtf8(path.filename().string()) + "\" as it was before is kept as \"" +
+               TextOfUtf8(copy.filename().string()) + "\" in the folder \"Backup\".";
     } catch (const std::exception& failure) {
         throw Error(PathFileAccess, "The file \"" + TextOfUtf8(path.filename().string()) +
                                         "\" could not be copied to \"Backup\" and was left as it is. " +
