@@ -404,4 +404,16 @@ DiskCalls& CurrentDisk() {
 
 const DiskCalls& Disk() { return CurrentDisk(); }
 
-void SetDisk(DiskCalls calls) { CurrentDisk() = calls.read ? std::move(calls) : SystemDisk(); }
+void SetDisk(DiskCalls calls) {
+    DiskCalls& current = CurrentDisk();
+    current = SystemDisk();
+    const auto put = [](auto& place, auto& call) {
+        if (call) place = std::move(call);
+    };
+    put(current.read, calls.read);
+    put(current.write, calls.write);
+    put(current.remove, calls.remove);
+    put(current.rename, calls.rename);
+    put(current.append, calls.append);
+    put(current.makeFolder, calls.makeFolder);
+}
