@@ -42,7 +42,7 @@ bool FileExists(const fs::path& folder, std::string_view name) {
     std::error_code failure;
     const fs::path exact = folder / PathOfText(name);
     const auto found = fs::exists(exact, failure) ? exact : FindIgnoringCase(folder, name);
-    return found && fs::exists(*found, failure) && !fs::is_directory(*found, failure);
+    return found && !fs::is_directory(*found, failure);
 }
 
 bool FolderExists(const fs::path& parent, std::string_view name) {

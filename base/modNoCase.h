@@ -15,7 +15,8 @@ std::string TextOfPath(const std::filesystem::path& path);
 /// if there is none or the folder cannot be listed.
 std::optional<std::filesystem::path> FindIgnoringCase(const std::filesystem::path& folder, std::string_view name);
 
-/// True if the folder holds a file of that name: hidden and read-only ones count, folders do not.
+/// True if the folder holds a file of that name: hidden and read-only ones count, and links that lead nowhere (reading
+/// those fails); folders do not.
 bool FileExists(const std::filesystem::path& folder, std::string_view name);
 
 /// True if the parent holds a folder of that name. A failing file system is told in a message box and answers false.
