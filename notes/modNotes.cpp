@@ -36,7 +36,7 @@ void TakeLine(Year slot, std::string_view line) {
     const std::string key(line.substr(0, 8));
     Cell cell = CellOfText(line.substr(9, 6));
     // The cell in the file is where the date stood when it was written; the date itself knows better.
-    if (const auto date = DateOfNoteKey(slot, key)) {
+    if (const auto date = DateOfNoteKey(notes.year, key)) {
         cell = CellOf(*date);
         notes.flags[cell] = true;
     }
@@ -122,7 +122,7 @@ std::string BytesOf(const NotesOfYear& notes) {
 
 void WriteNotes(const NotesOfYear& notes) {
     const Path folder = YearFolder(notes.year);
-    MakeFolder(folder);
+    std::filesystem::create_directories(folder);
     const std::string told = SaveDataFile(PathInFolder(folder, NotesFile), BytesOf(notes));
     ShowMessage(told.empty() ? "Notes Saved" : std::string("Notes Saved") + CrLf + CrLf + told);
 }
@@ -206,8 +206,7 @@ void DeleteNotes(Year slot, const std::vector<std::string>& dates) {
     ReadNotes(slot);
 }
 
-std::optional<Date> DateOfNoteKey(Year slot, std::string_view key) {
-    const int year = YearOfSlot(slot);
+std::optional<Date> DateOfNoteKey(int year, std::string_view key) {
     if (key.size() != 8 || key[2] != '/' || key[5] != '/' || key.substr(6) != TwoDigits(year % 100)) return {};
     const auto digits = [&](std::size_t at) { return (key[at] - '0') * 10 + (key[at + 1] - '0'); };
     for (const std::size_t at : {0u, 1u, 3u, 4u})

@@ -78,8 +78,8 @@ void DeleteNotes(Year slot, const std::vector<std::string>& dates);
 /// Reads the notes of the slot again.
 inline void ReadNotes(Year slot) { slot == ThisYear ? ReadThisYearsNotes() : ReadNextYearsNotes(); }
 
-/// The date of a note's key in a slot's year; nothing for a key that is no date of that year.
-std::optional<Date> DateOfNoteKey(Year slot, std::string_view key);
+/// The date of a note's key in the file of a year; nothing for a key that is no date of that year.
+std::optional<Date> DateOfNoteKey(int year, std::string_view key);
 
 /// The note of a date in its slot's tables, its lines parted by CR LF; several lines of the file for one date follow
 /// one another. "" where there is none.

@@ -1,0 +1,145 @@
+// Lists of terms: their files, and that no term gets lost with them.
+#include "notes/modFUT.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "base/text.h"
+#include "shell/modPreferences.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct TermsTest : testing::Test {
+    void open(const std::string& file, const std::string& bytes) {
+        folder.put(file, bytes);
+        Preferences.termsFile = CurrentTermsFile = file;
+        ReadFrequentlyUsedTerms();
+    }
+
+    TemporaryFolder folder;
+    ScriptedDialogs boxes;
+};
+
+TEST_F(TermsTest, AreSavedInListOrderWithoutALastLineBreak) {
+    open("Work.fut", "Zebra\r\napple\r\nMango");
+    EXPECT_EQ(Terms.terms.front(), "Zebra");  // completes in the order of the file
+    EXPECT_TRUE(AddTerms("  kiwi \r\n\r\n Banana"));
+    EXPECT_EQ(folder.get("Work.fut"), "apple\r\nBanana\r\nkiwi\r\nMango\r\nZebra");
+    EXPECT_TRUE(ChangeTerm("Mango", " mangos "));
+    RemoveTerms({"apple", "Zebra"});
+    EXPECT_EQ(folder.get("Work.fut"), "Banana\r\nkiwi\r\nmangos");
+    ConvertTerms(TermCase::Upper);
+    EXPECT_EQ(lstFUT.front(), "BANANA");
+    EXPECT_EQ(folder.get("Work.fut"), "Banana\r\nkiwi\r\nmangos");
+    boxes.expect("No term has been added to save.");
+    EXPECT_FALSE(AddTerms(" \r\n "));
+}
+
+TEST_F(TermsTest, EmptyListIsNotWritten) {
+    open("Work.fut", "only");
+    boxes.expect("There are no Frequently Used Terms to save.");
+    RemoveTerms({"only"});
+    EXPECT_EQ(folder.get("Work.fut"), "only");
+    boxes.expect("This will delete all items", Answer::No);
+    ClearTerms();
+    EXPECT_EQ(lstFUT.size(), 1u);
+    boxes.expect("This will delete all items", Answer::Yes);
+    boxes.expect("There are no Frequently Used Terms to save.");
+    ClearTerms();
+    EXPECT_EQ(folder.get("Work.fut"), "only");
+}
+
+TEST_F(TermsTest, NewListsAreMadeUnderNamesThatEverySystemTakes) {
+    open("Work.fut", "old");
+    for (const char* name :
+         {"a/b", "a\\b", "a:b", "*", "?", "<a", "a>", "a|b", "CON", "nul", "Lpt1.x", "a\"b", "a\tb", "..", ".hidden"}) {
+        boxes.expectInput("Starting New Frequent Terms File", name);
+        boxes.expect("Action Cancelled.");
+        EXPECT_FALSE(CreateNewFUTFile()) << name;
+    }
+    for (const char* name : {"", "   "}) {
+        boxes.expectInput("Please enter a name", name);
+        EXPECT_FALSE(CreateNewFUTFile());
+    }
+    folder.put("Home.fut", "dentist");
+    boxes.expectInput("Please enter a name", "home");
+    boxes.expect("File already exists. Overwrite?", Answer::No);
+    EXPECT_FALSE(CreateNewFUTFile());
+    EXPECT_EQ(CurrentTermsFile, "Work.fut");
+    boxes.expectInput("Please enter a name", "console");
+    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_EQ(folder.get("console.fut"), "");
+    EXPECT_TRUE(AddTerms("first"));
+    EXPECT_EQ(folder.get("console.fut"), "first");
+    boxes.expectInput("Please enter a name", "Home");
+    boxes.expect("File already exists. Overwrite?", Answer::Yes);
+    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_EQ(folder.get("Home.fut"), "dentist");  // until the first term is saved
+    boxes.expect("Backup");
+    EXPECT_TRUE(AddTerms("plumber"));
+    EXPECT_EQ(folder.get("Home.fut"), "plumber");
+    EXPECT_EQ(folder.backups(), "dentist");
+}
+
+TEST_F(TermsTest, ListsAreChosenCycledAndDeleted) {
+    folder.put("b.fut", "of b");
+    folder.put("C.FUT", "of c");
+    folder.put("c.txt", "no list");
+    open("a.fut", "of a");
+    const auto next = [] {
+        NextTermsFile();
+        return CurrentTermsFile;
+    };
+    EXPECT_EQ(next(), "b.fut");
+    EXPECT_EQ(next(), "C.FUT");
+    EXPECT_EQ(next(), "a.fut");
+    boxes.expect("You cannot delete the Default");
+    DeleteTermsFile();
+    ShowTermsFiles();
+    EXPECT_EQ(lstMoreFUT, (std::vector<std::string>{"a.fut", "b.fut", "C.FUT"}));
+    boxes.expect("No list selected.");
+    ChooseTermsFile(-1);
+    ChooseTermsFile(1);
+    EXPECT_EQ(lstFUT, std::vector<std::string>{"of b"});
+    DeleteTermsFile();
+    EXPECT_FALSE(folder.has("b.fut"));
+    EXPECT_TRUE(lstFUT.empty());
+    ReadTermsOnOpening();  // the deleted list is not made again
+    EXPECT_EQ(CurrentTermsFile, "a.fut");
+    EXPECT_FALSE(folder.has("b.fut"));
+}
+
+TEST_F(TermsTest, GoBackToTheirOwnFileWhateverThePreferencesNameMeanwhile) {
+    open("Home.fut", "dentist");
+    folder.put("Work.fut", "budget");
+    CurrentTermsFile = "Work.fut";  // as reading the preferences again does
+    EXPECT_TRUE(AddTerms("electrician"));
+    EXPECT_EQ(folder.get("Work.fut"), "budget");
+    EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician");
+    std::filesystem::remove(folder.path() / "Home.fut");  // behind the program's back
+    EXPECT_TRUE(AddTerms("plumber"));
+    EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber");
+    for (const char* name : {"../outside.fut", "NUL.fut"}) {
+        CurrentTermsFile = name;
+        boxes.expect("Action Cancelled.");
+        ReadFrequentlyUsedTerms();
+        EXPECT_EQ(TermCount(), 0);
+    }
+    CurrentTermsFile.clear();
+    boxes.expect("File not found.");
+    ReadFrequentlyUsedTerms();
+}
+
+TEST_F(TermsTest, AreJoinedToANoteWithTheBlanksTheyNeed) {
+    EXPECT_EQ(InsertedTerm('\0', "vet"), "vet ");
+    EXPECT_EQ(InsertedTerm(' ', "vet"), "vet ");
+    EXPECT_EQ(InsertedTerm('\n', "vet"), "vet ");
+    EXPECT_EQ(InsertedTerm('x', "vet"), " vet ");
+    EXPECT_EQ(DroppedTerm('\0', "vet"), "vet");
+    EXPECT_EQ(DroppedTerm('\n', "vet"), "vet");
+    EXPECT_EQ(DroppedTerm(' ', "vet"), " vet");
+}
+}  // namespace
