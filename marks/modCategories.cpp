@@ -145,7 +145,6 @@ std::optional<int> CategoryOfColor(Color color) {
 
 void ReadMarkerColors() {
     Reporting("ReadMarkerColors", ReadColorsFile);
-    if (!std::exchange(Categories.everRead, true)) TodayShown = !MarkerHidden[TodaysDateCategory];
     FillLabels();
     ShowCategories();
 }

@@ -39,7 +39,6 @@ struct CategoryState {
     bool loaded = false;               // the file was read and no window has edited the labels since
     bool saveHidden = false;           // the next save writes which categories are hidden
     bool todayShown = true;            // today is painted in the colour of Today's Date
-    bool everRead = false;             // the start-up reading has taken place
 };
 extern CategoryState Categories;
 
