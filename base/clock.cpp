@@ -13,6 +13,7 @@ DateTime SystemNow() {
 #ifdef _WIN32
     localtime_s(&local, &now);
 #else
+    tzset();  // the machine may have been taken to another time zone
     localtime_r(&now, &local);
 #endif
     // A leap second (60) counts as the second before it.

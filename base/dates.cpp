@@ -96,30 +96,47 @@ std::optional<Word> NumberWord(std::string_view digits) {
     return Word{true, static_cast<int>(IntegerValue(digits)), static_cast<int>(digits.size())};
 }
 
-/// Splits into numbers and month names; weekday names are dropped. Nothing where something else stands.
+/// The run of characters of one kind at the front.
+template <class Kind>
+std::string_view Run(std::string_view text, Kind kind) {
+    std::size_t length = 0;
+    while (length < text.size() && kind(text[length])) ++length;
+    return text.substr(0, length);
+}
+
+/// Splits into numbers and month names, parted by blanks and at most one sign; the weekday's name in front is dropped.
+/// Nothing where something else stands.
 std::optional<std::vector<Word>> WordsOf(std::string_view text) {
     std::vector<Word> words;
-    for (std::size_t at = 0; at < text.size();) {
-        const std::size_t start = at;
-        if (IsDigit(text[at])) {
-            while (at < text.size() && IsDigit(text[at])) ++at;
-            const auto word = NumberWord(text.substr(start, at - start));
+    bool signMayStand = false;  // after a word, until the first sign
+    bool wordMustFollow = true;
+    for (std::size_t length = 0; !text.empty(); text.remove_prefix(length)) {
+        length = 1;
+        if (const auto digits = Run(text, IsDigit); !digits.empty()) {
+            const auto word = NumberWord(digits);
             if (!word) return std::nullopt;
             words.push_back(*word);
-        } else if (IsLetter(text[at])) {
-            while (at < text.size() && IsLetter(text[at])) ++at;
-            const auto name = text.substr(start, at - start);
-            const int month = EqualIgnoringCase(name, "Sept") ? 9 : NameIndex(name, MonthNames);
-            if (month != 0)
+            length = digits.size();
+        } else if (const auto name = Run(text, [](char c) { return IsLetter(c); }); !name.empty()) {
+            if (const int month = NameIndex(name, MonthNames); month != 0)
                 words.push_back({false, month, 0});
             else if (!words.empty() || NameIndex(name, DayNames) == 0)
                 return std::nullopt;
-        } else if (std::string_view(" ,/-.").find(text[at]) == std::string_view::npos) {
-            return std::nullopt;
+            length = name.size();
+            if (text.substr(length).starts_with('.')) ++length;  // an abbreviation's
+        } else if (text.front() == ' ') {
+            continue;
         } else {
-            ++at;
+            if (!signMayStand || std::string_view(",/-.").find(text.front()) == std::string_view::npos)
+                return std::nullopt;
+            signMayStand = false;
+            wordMustFollow = true;
+            continue;
         }
+        signMayStand = true;
+        wordMustFollow = false;
     }
+    if (wordMustFollow) return std::nullopt;
     return words;
 }
 
@@ -228,7 +245,7 @@ std::string FormatDate(Date date, std::string_view pattern) {
     return text;
 }
 
-std::string LongDate(Date date) { return FormatDate(date, "dddd, mmmm ") + FormatDate(date, "d, yyyy"); }
+std::string LongDate(Date date) { return FormatDate(date, "dddd, mmmm d, yyyy"); }
 
 std::string GeneralDate(DateTime moment) {
     return ShortDate(moment.date) + " " + FormatTime(moment.second, "h:nn:ss AM/PM");

@@ -64,9 +64,10 @@ std::string MonthName(int month);
 std::string WeekdayName(int weekday);
 
 /// Reads a date as people type it: 1/4/2009, 1-4-2009, Jan 4, 2009, January 4 2009, 4 Jan 2009, 2009-01-04. Month
-/// before day; two-digit years 00-29 are 2000-2029, 30-99 are 1930-1999; letters in any case; a weekday's name in
-/// front is passed over. A month with a day alone ("7/4", "Jan 4") lies in the current year; a month with a year
-/// ("January 2009") is its first day. Nothing for what is no date or does not exist (2/30/2009, 13/1/2009).
+/// before day; two-digit years 00-29 are 2000-2029, 30-99 are 1930-1999; letters in any case, names cut to three
+/// letters or more; a weekday's name in front is passed over. A month with a day alone ("7/4", "Jan 4") lies in the
+/// current year; a month's name with a four-digit year ("January 2009") is its first day. Nothing for what is no date
+/// or does not exist (2/30/2009, 13/1/2009, 2/29 in a year without it), nor for two signs in a row (1//4/2009, 1/-4).
 std::optional<Date> ReadDate(std::string_view text);
 
 /// The same, throwing Error 13 for what is no date.

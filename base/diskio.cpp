@@ -1,8 +1,11 @@
 // The system's file calls, every result checked.
 #include "base/diskio.h"
 
-#include <cerrno>
+#include <chrono>
+#include <optional>
+#include <random>
 #include <utility>
+#include <vector>
 
 #include "base/errors.h"
 
@@ -12,218 +15,247 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include <cerrno>
 #endif
 
 namespace fs = std::filesystem;
 
+// -- What differs between the systems -----------------------------------------------------------------------------
+
 namespace {
 #ifdef _WIN32
 
-[[noreturn]] void FailWithLastError() {
-    switch (GetLastError()) {
-        case ERROR_FILE_NOT_FOUND:
-            throw Error(FileNotFound);
-        case ERROR_PATH_NOT_FOUND:
-            throw Error(PathNotFound);
-        case ERROR_ACCESS_DENIED:
-        case ERROR_SHARING_VIOLATION:
-        case ERROR_LOCK_VIOLATION:
-        case ERROR_WRITE_PROTECT:
-            throw Error(PermissionDenied);
-        case ERROR_HANDLE_DISK_FULL:
-        case ERROR_DISK_FULL:
-            throw Error(DiskFull);
-        default:
-            throw Error(DeviceIoError);
-    }
+[[noreturn]] void Fail() {
+    throw Error(NumberOf(std::error_code(static_cast<int>(GetLastError()), std::system_category())));
 }
 
 /// A file handle that is closed on every way out.
 class OpenFile {
   public:
-    OpenFile(const fs::path& path, DWORD access, DWORD creation)
-        : handle_(
-              CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr)) {
-        if (handle_ == INVALID_HANDLE_VALUE) FailWithLastError();
+    /// Takes over the handle; fails if opening has failed.
+    explicit OpenFile(HANDLE opened) : handle_(opened) {
+        if (handle_ == INVALID_HANDLE_VALUE) Fail();
     }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
-    ~OpenFile() { close(); }
+    OpenFile(OpenFile&& other) noexcept : handle_(std::exchange(other.handle_, INVALID_HANDLE_VALUE)) {}
+    OpenFile& operator=(OpenFile&&) = delete;
+    ~OpenFile() {
+        if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(handle_);
+    }
 
-    std::size_t read(char* buffer, std::size_t count) {
+    std::size_t readSome(char* buffer, std::size_t count) {
         DWORD got = 0;
-        if (!ReadFile(handle_, buffer, static_cast<DWORD>(count), &got, nullptr)) FailWithLastError();
+        if (!ReadFile(handle_, buffer, PartOf(count), &got, nullptr)) Fail();
         return got;
     }
-    void write(std::string_view bytes) {
-        while (!bytes.empty()) {
-            const DWORD part = bytes.size() > (1u << 24) ? (1u << 24) : static_cast<DWORD>(bytes.size());
-            DWORD done = 0;
-            if (!WriteFile(handle_, bytes.data(), part, &done, nullptr)) FailWithLastError();
-            if (done == 0) throw Error(DiskFull);
-            bytes.remove_prefix(done);
-        }
+    std::size_t writeSome(std::string_view bytes) {
+        DWORD done = 0;
+        if (!WriteFile(handle_, bytes.data(), PartOf(bytes.size()), &done, nullptr)) Fail();
+        return done;
     }
     void sync() {
-        if (!FlushFileBuffers(handle_)) FailWithLastError();
+        if (!FlushFileBuffers(handle_)) Fail();
     }
     std::uint64_t size() const {
         LARGE_INTEGER size;
-        if (!GetFileSizeEx(handle_, &size)) FailWithLastError();
+        if (!GetFileSizeEx(handle_, &size)) Fail();
         return static_cast<std::uint64_t>(size.QuadPart);
     }
+    void goToEnd() {
+        if (!SetFilePointerEx(handle_, LARGE_INTEGER{}, nullptr, FILE_END)) Fail();
+    }
+    void cutTo(std::uint64_t size) {
+        LARGE_INTEGER place;
+        place.QuadPart = static_cast<LONGLONG>(size);
+        if (SetFilePointerEx(handle_, place, nullptr, FILE_BEGIN)) SetEndOfFile(handle_);
+    }
     void close() {
-        if (handle_ != INVALID_HANDLE_VALUE) CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE));
+        if (!CloseHandle(std::exchange(handle_, INVALID_HANDLE_VALUE))) Fail();
     }
 
   private:
+    static DWORD PartOf(std::size_t count) { return count > (1u << 24) ? (1u << 24) : static_cast<DWORD>(count); }
     HANDLE handle_;
 };
 
-OpenFile OpenForReading(const fs::path& path) { return {path, GENERIC_READ, OPEN_EXISTING}; }
-OpenFile CreateFresh(const fs::path& path, const fs::path&) {
-    return {path, GENERIC_WRITE | GENERIC_READ, CREATE_ALWAYS};
+HANDLE Open(const fs::path& path, DWORD access, DWORD sharing, DWORD creation) {
+    return CreateFileW(path.c_str(), access, sharing, nullptr, creation, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+OpenFile OpenForReading(const fs::path& path) {
+    constexpr DWORD Anybody = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+    return OpenFile(Open(path, GENERIC_READ, Anybody, OPEN_EXISTING));
+}
+
+OpenFile OpenForAppending(const fs::path& path) {
+    OpenFile file(Open(path, GENERIC_WRITE, FILE_SHARE_READ, OPEN_ALWAYS));
+    file.goToEnd();
+    return file;
+}
+
+/// Nothing if the name is taken.
+std::optional<OpenFile> CreateNew(const fs::path& path, const fs::path&) {
+    const HANDLE opened = Open(path, GENERIC_WRITE | GENERIC_READ, FILE_SHARE_READ, CREATE_NEW);
+    if (opened == INVALID_HANDLE_VALUE && GetLastError() == ERROR_FILE_EXISTS) return std::nullopt;
+    return OpenFile(opened);
 }
 
 void ClearReadOnly(const fs::path& path) {
     const DWORD attributes = GetFileAttributesW(path.c_str());
-    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & (FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN)) != 0)
-        SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
+    if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
+        SetFileAttributesW(path.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
 }
 
 void PutInPlace(const fs::path& from, const fs::path& to) {
-    if (!MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) FailWithLastError();
+    ClearReadOnly(to);
+    if (!MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH)) Fail();
 }
 
-void SyncFolder(const fs::path&) {}  // the rename was written through
-
-void RemoveQuietly(const fs::path& path) { DeleteFileW(path.c_str()); }
-
-void RemoveChecked(const fs::path& path) {
+bool Remove(const fs::path& path) {
     ClearReadOnly(path);
-    if (DeleteFileW(path.c_str()) || GetLastError() == ERROR_FILE_NOT_FOUND || GetLastError() == ERROR_PATH_NOT_FOUND)
-        return;
-    FailWithLastError();
+    if (DeleteFileW(path.c_str())) return true;
+    if (GetLastError() != ERROR_FILE_NOT_FOUND && GetLastError() != ERROR_PATH_NOT_FOUND) Fail();
+    return false;
 }
+
+/// A folder whose entries are to be on the disk for good. Here every change of them is written through.
+class OpenFolder {
+  public:
+    explicit OpenFolder(const fs::path&) {}
+    void sync() {}
+};
 
 #else
 
-[[noreturn]] void FailWithErrno(int code = errno) {
-    switch (code) {
-        case ENOENT:
-            throw Error(FileNotFound);
-        case ENOTDIR:
-            throw Error(PathNotFound);
-        case EACCES:
-        case EPERM:
-        case ETXTBSY:
-            throw Error(PermissionDenied);
-        case EROFS:
-        case EISDIR:
-        case ENAMETOOLONG:
-            throw Error(PathFileAccess);
-        case ENOSPC:
-        case EDQUOT:
-        case EFBIG:
-            throw Error(DiskFull);
-        default:
-            throw Error(DeviceIoError);
-    }
-}
+[[noreturn]] void Fail() { throw Error(NumberOf(std::error_code(errno, std::generic_category()))); }
 
 /// A file descriptor that is closed on every way out.
 class OpenFile {
   public:
-    OpenFile(const fs::path& path, int flags, mode_t mode = 0)
-        : descriptor_(::open(path.c_str(), flags | O_CLOEXEC, mode)) {
-        if (descriptor_ < 0) FailWithErrno();
+    /// Takes over the descriptor; fails if opening has failed.
+    explicit OpenFile(int opened) : descriptor_(opened) {
+        if (descriptor_ < 0) Fail();
     }
-    OpenFile(const OpenFile&) = delete;
-    OpenFile& operator=(const OpenFile&) = delete;
+    OpenFile(OpenFile&& other) noexcept : descriptor_(std::exchange(other.descriptor_, -1)) {}
+    OpenFile& operator=(OpenFile&&) = delete;
     ~OpenFile() {
         if (descriptor_ >= 0) ::close(descriptor_);
     }
 
-    std::size_t read(char* buffer, std::size_t count) {
+    std::size_t readSome(char* buffer, std::size_t count) {
         for (;;) {
             const ssize_t got = ::read(descriptor_, buffer, count);
             if (got >= 0) return static_cast<std::size_t>(got);
-            if (errno != EINTR) FailWithErrno();
+            if (errno != EINTR) Fail();
         }
     }
-    void write(std::string_view bytes) {
-        while (!bytes.empty()) {
+    std::size_t writeSome(std::string_view bytes) {
+        for (;;) {
             const ssize_t done = ::write(descriptor_, bytes.data(), bytes.size());
-            if (done < 0 && errno == EINTR) continue;
-            if (done < 0) FailWithErrno();
-            if (done == 0) throw Error(DiskFull);
-            bytes.remove_prefix(static_cast<std::size_t>(done));
+            if (done >= 0) return static_cast<std::size_t>(done);
+            if (errno != EINTR) Fail();
         }
     }
     void sync() {
-        // Some file systems cannot sync what needs none (EINVAL, ENOTSUP); every other refusal is a failure.
-        if (::fsync(descriptor_) != 0 && errno != EINVAL && errno != ENOTSUP) FailWithErrno();
+        while (::fsync(descriptor_) != 0) {
+            // Some file systems cannot sync what needs none; every other refusal is a failure.
+            if (errno == EINVAL || errno == ENOTSUP) return;
+            if (errno != EINTR) Fail();
+        }
     }
     std::uint64_t size() const { return static_cast<std::uint64_t>(status().st_size); }
-    bool isFolder() const { return S_ISDIR(status().st_mode); }
-    void copyMode(mode_t mode) {
-        if (::fchmod(descriptor_, mode) != 0 && errno != EPERM && errno != ENOTSUP) FailWithErrno();
+    bool isFile() const { return S_ISREG(status().st_mode); }
+    void cutTo(std::uint64_t size) {
+        if (::ftruncate(descriptor_, static_cast<off_t>(size)) != 0) return;  // what led here is reported, not this
+    }
+    /// Takes over the owner and the permissions, and lets the owner write.
+    void takeOver(const struct stat& replaced) {
+        // File systems without owners or permissions refuse; a save does not fail for that.
+        if (replaced.st_uid != ::geteuid() && ::fchown(descriptor_, replaced.st_uid, replaced.st_gid) != 0) return;
+        if (::fchmod(descriptor_, (replaced.st_mode & 0777) | S_IWUSR) != 0) return;
     }
     void close() {
-        if (::close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) FailWithErrno();
+        // Interrupted, the descriptor is closed all the same.
+        if (::close(std::exchange(descriptor_, -1)) != 0 && errno != EINTR) Fail();
     }
 
   private:
     struct stat status() const {
         struct stat status {};
-        if (::fstat(descriptor_, &status) != 0) FailWithErrno();
+        if (::fstat(descriptor_, &status) != 0) Fail();
         return status;
     }
     int descriptor_;
 };
 
-OpenFile OpenForReading(const fs::path& path) {
-    struct stat status {};
-    if (::stat(path.c_str(), &status) == 0 && S_ISDIR(status.st_mode)) throw Error(PathFileAccess);
-    if (!fs::exists(path.parent_path())) throw Error(PathNotFound);
-    return {path, O_RDONLY};
+int Open(const fs::path& path, int flags, mode_t mode = 0) { return ::open(path.c_str(), flags | O_CLOEXEC, mode); }
+
+/// Opens without waiting: what is no file (a pipe that nobody fills) must not hold the program up.
+OpenFile OpenedFile(const fs::path& path, int flags) {
+    OpenFile file(Open(path, flags | O_NONBLOCK, 0666));
+    if (!file.isFile()) throw Error(PathFileAccess);
+    return file;
 }
 
-/// Creates the temporary with the permissions of the file it will replace, writable by its owner.
-OpenFile CreateFresh(const fs::path& path, const fs::path& replaced) {
-    struct stat status {};
-    const bool known = ::stat(replaced.c_str(), &status) == 0;
-    return {path, O_RDWR | O_CREAT | O_TRUNC, known ? (status.st_mode & 0777) | S_IWUSR : 0666};
-}
+OpenFile OpenForReading(const fs::path& path) { return OpenedFile(path, O_RDONLY); }
+OpenFile OpenForAppending(const fs::path& path) { return OpenedFile(path, O_WRONLY | O_CREAT | O_APPEND); }
 
-void ClearReadOnly(const fs::path&) {}  // a rename replaces a read-only file as well
+/// Nothing if the name is taken. The file is never more open to others than the one it will replace.
+std::optional<OpenFile> CreateNew(const fs::path& path, const fs::path& replaced) {
+    struct stat status {};
+    const bool replaces = ::stat(replaced.c_str(), &status) == 0;
+    const int opened = Open(path, O_RDWR | O_CREAT | O_EXCL, replaces ? S_IRUSR | S_IWUSR : 0666);
+    if (opened < 0 && errno == EEXIST) return std::nullopt;
+    OpenFile file(opened);
+    if (replaces) file.takeOver(status);
+    return file;
+}
 
 void PutInPlace(const fs::path& from, const fs::path& to) {
-    if (::rename(from.c_str(), to.c_str()) != 0) FailWithErrno();
+    if (::rename(from.c_str(), to.c_str()) != 0) Fail();
 }
 
-void SyncFolder(const fs::path& folder) {
-    OpenFile(folder.empty() ? fs::path(".") : folder, O_RDONLY | O_DIRECTORY).sync();
+bool Remove(const fs::path& path) {
+    if (::unlink(path.c_str()) == 0) return true;
+    if (errno != ENOENT) Fail();
+    return false;
 }
 
-void RemoveQuietly(const fs::path& path) { ::unlink(path.c_str()); }
+/// A folder whose entries are to be on the disk for good. It is opened before anything is changed in it, so that a
+/// folder that cannot be synced is known in time.
+class OpenFolder {
+  public:
+    explicit OpenFolder(const fs::path& path) : folder_(Open(path, O_RDONLY | O_DIRECTORY)) {}
+    void sync() { folder_.sync(); }
 
-void RemoveChecked(const fs::path& path) {
-    if (::unlink(path.c_str()) == 0)
-        SyncFolder(path.parent_path());
-    else if (errno != ENOENT)
-        FailWithErrno();
-}
+  private:
+    OpenFile folder_;
+};
 
 #endif
+}  // namespace
+
+// -- The calls ----------------------------------------------------------------------------------------------------
+
+namespace {
+fs::path FolderOf(const fs::path& path) { return path.has_parent_path() ? path.parent_path() : fs::path("."); }
+
+void CheckFolder(const fs::path& folder) {
+    std::error_code failure;
+    if (!fs::is_directory(folder, failure)) throw Error(PathNotFound);
+}
 
 std::string ReadFromDisk(const fs::path& path) {
+    std::error_code failure;
+    const fs::file_type type = fs::status(path, failure).type();
+    if (type == fs::file_type::directory) throw Error(PathFileAccess);
+    if (type == fs::file_type::not_found) CheckFolder(FolderOf(path));
     OpenFile file = OpenForReading(path);
-    std::string bytes(static_cast<std::size_t>(file.size()) + 1, '\0');
-    std::size_t filled = 0;
     // One byte more than the size is asked for, so that the usual file is at its end after two reads; one that grows
     // meanwhile is read on.
-    while (const std::size_t got = file.read(bytes.data() + filled, bytes.size() - filled)) {
+    std::string bytes(static_cast<std::size_t>(file.size()) + 1, '\0');
+    std::size_t filled = 0;
+    while (const std::size_t got = file.readSome(bytes.data() + filled, bytes.size() - filled)) {
         filled += got;
         if (filled == bytes.size()) bytes.resize(bytes.size() * 2);
     }
@@ -231,38 +263,138 @@ std::string ReadFromDisk(const fs::path& path) {
     return bytes;
 }
 
-void WriteTemporary(const fs::path& temporary, const fs::path& path, std::string_view bytes) {
-    OpenFile file = CreateFresh(temporary, path);
-    file.write(bytes);
+void WriteAll(OpenFile& file, std::string_view bytes) {
+    while (!bytes.empty()) {
+        const std::size_t done = file.writeSome(bytes);
+        if (done == 0) throw Error(DiskFull);
+        bytes.remove_prefix(done);
+    }
     file.sync();
-    if (file.size() != bytes.size()) throw Error(DiskFull);
-    file.close();
+}
+
+constexpr std::string_view TemporaryPrefix = "~save-";
+constexpr std::string_view TemporarySuffix = ".tmp";
+
+/// A new file beside the one that it will replace, under a name of its own: programs that save at the same time (on a
+/// shared folder) never write into each other's. Removed again unless it is put in place.
+class Temporary {
+  public:
+    explicit Temporary(const fs::path& replaced) : replaced_(replaced), file_(create()) {}
+    Temporary(const Temporary&) = delete;
+    Temporary& operator=(const Temporary&) = delete;
+    ~Temporary() {
+        file_.reset();
+        std::error_code ignored;
+        if (!placed_) fs::remove(path_, ignored);
+    }
+
+    void fill(std::string_view bytes) {
+        WriteAll(*file_, bytes);
+        if (file_->size() != bytes.size()) throw Error(DiskFull);
+        file_->close();
+    }
+    void putInPlace() {
+        PutInPlace(path_, replaced_);
+        placed_ = true;
+    }
+
+  private:
+    std::optional<OpenFile> create() {
+        std::random_device random;
+        for (int tries = 0; tries < 100; ++tries) {
+            path_ = FolderOf(replaced_) /
+                    std::string(TemporaryPrefix).append(std::to_string(random())).append(TemporarySuffix);
+            if (auto file = CreateNew(path_, replaced_)) return file;
+        }
+        throw Error(PathFileAccess);
+    }
+
+    fs::path replaced_;
+    fs::path path_;
+    std::optional<OpenFile> file_;
+    bool placed_ = false;
+};
+
+/// Removes what programs that were killed in the middle of a save have left: temporaries an hour older than the file
+/// that has just been written. Both times are the file system's own, so that no clock needs to be right.
+void RemoveLeftovers(const fs::path& written) {
+    std::error_code ignored;
+    const auto now = fs::last_write_time(written, ignored);
+    std::vector<fs::path> left;
+    for (fs::directory_iterator entry(FolderOf(written), ignored), end; entry != end; entry.increment(ignored)) {
+        const std::u8string name = entry->path().filename().u8string();
+        const std::string_view view(reinterpret_cast<const char*>(name.data()), name.size());
+        if (view.starts_with(TemporaryPrefix) && view.ends_with(TemporarySuffix)) left.push_back(entry->path());
+    }
+    for (const fs::path& file : left) {
+        const auto made = fs::last_write_time(file, ignored);
+        if (!ignored && now - made > std::chrono::hours(1)) fs::remove(file, ignored);
+    }
+}
+
+/// A link stays a link: the file is the one it leads to, whether that exists yet or not.
+fs::path BehindLinks(fs::path path) {
+    std::error_code failure;
+    for (int links = 0; fs::is_symlink(path, failure); ++links) {
+        if (links == 40) throw Error(PathFileAccess);
+        const fs::path target = fs::read_symlink(path, failure);
+        if (failure) throw Error(NumberOf(failure));
+        path = FolderOf(path) / target;  // an absolute target stands for itself
+    }
+    return path;
 }
 
 void WriteToDisk(const fs::path& wanted, std::string_view bytes) {
-    std::error_code failure;
-    // A link stays a link: what it points to is replaced.
-    const fs::path path = fs::is_symlink(wanted, failure) ? fs::weakly_canonical(wanted) : wanted;
-    if (!path.parent_path().empty() && !fs::is_directory(path.parent_path(), failure)) throw Error(PathNotFound);
-    const fs::path temporary = path.parent_path() / (path.filename().string() + ".tmp");
+    const fs::path path = BehindLinks(wanted);
+    CheckFolder(FolderOf(path));
+    OpenFolder folder(FolderOf(path));
+    Temporary temporary(path);
+    temporary.fill(bytes);
+    temporary.putInPlace();
+    folder.sync();
+    RemoveLeftovers(path);
+}
+
+void AppendOnDisk(const fs::path& path, std::string_view bytes) {
+    CheckFolder(FolderOf(path));
+    OpenFile file = OpenForAppending(path);
+    const std::uint64_t before = file.size();
     try {
-        WriteTemporary(temporary, path, bytes);
-        ClearReadOnly(path);
-        PutInPlace(temporary, path);
+        WriteAll(file, bytes);
     } catch (const Error&) {
-        RemoveQuietly(temporary);
+        file.cutTo(before);
         throw;
     }
-    SyncFolder(path.parent_path());
+    file.close();
+    if (before == 0) OpenFolder(FolderOf(path)).sync();  // it may just have been made
+}
+
+void RemoveFromDisk(const fs::path& path) {
+    std::error_code failure;
+    if (!fs::is_directory(FolderOf(path), failure)) return;
+    OpenFolder folder(FolderOf(path));
+    if (Remove(path)) folder.sync();
 }
 
 void RenameOnDisk(const fs::path& from, const fs::path& to) {
-    ClearReadOnly(to);
+    CheckFolder(FolderOf(to));
+    OpenFolder folder(FolderOf(to));
     PutInPlace(from, to);
-    SyncFolder(to.parent_path());
+    folder.sync();
 }
 
-DiskCalls SystemDisk() { return {ReadFromDisk, WriteToDisk, RemoveChecked, RenameOnDisk}; }
+void MakeFolderOnDisk(const fs::path& path) {
+    std::error_code failure;
+    if (fs::is_directory(path, failure)) return;
+    if (path.has_parent_path() && path.has_relative_path()) MakeFolderOnDisk(path.parent_path());
+    OpenFolder parent(FolderOf(path));
+    if (!fs::create_directory(path, failure) && failure) throw Error(NumberOf(failure));
+    parent.sync();
+}
+
+DiskCalls SystemDisk() {
+    return {ReadFromDisk, WriteToDisk, RemoveFromDisk, RenameOnDisk, AppendOnDisk, MakeFolderOnDisk};
+}
 
 DiskCalls& CurrentDisk() {
     static DiskCalls calls = SystemDisk();
@@ -272,4 +404,16 @@ DiskCalls& CurrentDisk() {
 
 const DiskCalls& Disk() { return CurrentDisk(); }
 
-void SetDisk(DiskCalls calls) { CurrentDisk() = calls.read ? std::move(calls) : SystemDisk(); }
+void SetDisk(DiskCalls calls) {
+    DiskCalls& current = CurrentDisk();
+    current = SystemDisk();
+    const auto put = [](auto& place, auto& call) {
+        if (call) place = std::move(call);
+    };
+    put(current.read, calls.read);
+    put(current.write, calls.write);
+    put(current.remove, calls.remove);
+    put(current.rename, calls.rename);
+    put(current.append, calls.append);
+    put(current.makeFolder, calls.makeFolder);
+}

@@ -6,15 +6,18 @@
 #include <string>
 #include <string_view>
 
+/// Each call fails as its procedure in base/files.h says.
 struct DiskCalls {
-    std::function<std::string(const std::filesystem::path&)> read;
-    std::function<void(const std::filesystem::path&, std::string_view)> write;
-    std::function<void(const std::filesystem::path&)> remove;
-    std::function<void(const std::filesystem::path&, const std::filesystem::path&)> rename;
+    std::function<std::string(const std::filesystem::path&)> read = {};
+    std::function<void(const std::filesystem::path&, std::string_view)> write = {};
+    std::function<void(const std::filesystem::path&)> remove = {};
+    std::function<void(const std::filesystem::path&, const std::filesystem::path&)> rename = {};
+    std::function<void(const std::filesystem::path&, std::string_view)> append = {};
+    std::function<void(const std::filesystem::path&)> makeFolder = {};
 };
 
-/// The calls in place. They fail as base/files.h says.
+/// The calls in place.
 const DiskCalls& Disk();
 
-/// Puts other calls in place; an empty table brings the system's back. For tests.
+/// Puts other calls in place; those left empty are the system's. For tests.
 void SetDisk(DiskCalls calls);

@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 #include <string>
+#include <system_error>
 
 enum ErrorNumber : int {
     InvalidCall = 5,
@@ -21,6 +22,9 @@ enum ErrorNumber : int {
 
 /// The usual description of an error number; "Application-defined or object-defined error" for an unknown one.
 std::string DescriptionOf(int number);
+
+/// The error number for a failure of the system: 53, 61, 70, 75 or 76, and 57 for all that has no number of its own.
+int NumberOf(const std::error_code& failure);
 
 /// A failure with its number. what() is the description.
 class Error : public std::runtime_error {

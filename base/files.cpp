@@ -23,15 +23,17 @@ std::vector<std::string_view> LinesOf(std::string_view bytes) {
         const auto end = bytes.find('\n');
         std::string_view line = bytes.substr(0, end);
         bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-        if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
+        if (line.ends_with('\r')) line.remove_suffix(1);
         lines.push_back(line);
     }
     return lines;
 }
 
 void WriteWholeFile(const Path& path, std::string_view bytes) { Disk().write(path, bytes); }
+void AppendToFile(const Path& path, std::string_view bytes) { Disk().append(path, bytes); }
 void DeleteFile(const Path& path) { Disk().remove(path); }
 void RenameFile(const Path& from, const Path& to) { Disk().rename(from, to); }
+void MakeFolder(const Path& folder) { Disk().makeFolder(folder); }
 
 // -- The data folder ----------------------------------------------------------------------------------------------
 
@@ -49,27 +51,15 @@ const ClearedAtStart ClearKnownFiles([] { KnownFiles.clear(); });
 
 KnownFile KnownOf(std::string_view bytes) { return {bytes.size(), std::hash<std::string_view>()(bytes)}; }
 std::string KeyOf(const Path& path) { return path.lexically_normal().string(); }
-
-/// True if the file on the disk is gone or is what was last fully read or written.
-bool HoldsNothingUnknown(const Path& path) {
-    std::error_code ignored;
-    if (!fs::exists(path, ignored)) return true;
-    const std::string bytes = ReadWholeFile(path);
-    if (bytes.empty()) return true;
-    const auto known = KnownFiles.find(KeyOf(path));
-    return known != KnownFiles.end() && known->second == KnownOf(bytes);
-}
-
-std::string CopiedIfUnknown(const Path& path) { return HoldsNothingUnknown(path) ? std::string() : CopyToBackup(path); }
 }  // namespace
 
 const Path& DataFolder() { return Folder; }
-void SetDataFolder(const Path& folder) { Folder = folder; }
+void SetDataFolder(const Path& folder) { Folder = folder.has_filename() ? folder : folder.parent_path(); }
 
 Path YearFolder(int year) { return PathInFolder(DataFolder(), Padded(year, 4)); }
 
 Path PathInFolder(const Path& folder, std::string_view name) {
-    const Path wanted = folder / fs::u8path(Utf8Of(name));
+    const Path wanted = folder / PathOfText(name);
     std::error_code failure;
     if (fs::exists(wanted, failure)) return wanted;
     return FindIgnoringCase(folder, name).value_or(wanted);
@@ -88,66 +78,102 @@ void ReadDataLines(const Path& path, const std::function<void(std::string_view, 
 void MarkNotFullyRead(const Path& path) { KnownFiles.erase(KeyOf(path)); }
 void MarkFullyRead(const Path& path, std::string_view bytes) { KnownFiles[KeyOf(path)] = KnownOf(bytes); }
 
-std::string SaveDataFile(const Path& path, std::string_view bytes) {
-    const std::string told = CopiedIfUnknown(path);
-    WriteWholeFile(path, bytes);
-    MarkFullyRead(path, bytes);
-    return told;
-}
-
-std::string DeleteDataFile(const Path& path) {
-    const std::string told = CopiedIfUnknown(path);
-    DeleteFile(path);
-    KnownFiles.erase(KeyOf(path));
-    return told;
-}
-
-std::string RenameDataFile(const Path& from, const Path& to) {
-    const std::string told = CopiedIfUnknown(to);
-    RenameFile(from, to);
-    if (const auto known = KnownFiles.find(KeyOf(from)); known != KnownFiles.end()) {
-        KnownFiles[KeyOf(to)] = known->second;
-        KnownFiles.erase(KeyOf(from));
-    } else {
-        KnownFiles.erase(KeyOf(to));
-    }
-    return told;
-}
-
 namespace {
 /// A name in the Backup folder that no earlier copy has.
 Path FreeBackupName(const Path& folder, const Path& original) {
     const DateTime now = Now();
-    const std::string stamp = FormatDate(now.date, "yyyy-mm-dd") + " " + FormatTime(now.second, "hh-nn-ss");
+    const std::string stamp = FormatDate(now.date, " yyyy-mm-dd ") + FormatTime(now.second, "hh-nn-ss");
+    Path stem;
     // A year folder's file carries the year in its copy's name: the year folders all hold a "Notes.dat".
-    const std::string parent =
-        original.parent_path() == DataFolder() ? "" : original.parent_path().filename().string() + " ";
+    if (original.parent_path() != DataFolder()) (stem = original.parent_path().filename()) += " ";
+    (stem += original.stem()) += stamp;
     std::error_code ignored;
     for (int copy = 1;; ++copy) {
-        Path name = folder / (parent + original.stem().string() + " " + stamp +
-                              (copy > 1 ? " " + std::to_string(copy) : "") + original.extension().string());
-        if (!fs::exists(name, ignored)) return name;
+        Path name = folder / stem;
+        if (copy > 1) name += " " + std::to_string(copy);
+        name += original.extension();
+        if (fs::symlink_status(name, ignored).type() == fs::file_type::not_found) return name;
     }
+}
+
+/// The failed copy's error. It stands for the save as well, which is refused then.
+Error CopyFailed(const Path& path, const std::exception& failure) {
+    return {PathFileAccess, "The file \"" + TextOfPath(path.filename()) +
+                                "\" could not be copied to \"Backup\" and was left as it is. " + failure.what()};
+}
+
+std::string CopyBytesToBackup(const Path& path, std::string_view bytes) {
+    const Path folder = DataPath("Backup");
+    MakeFolder(folder);
+    const Path copy = FreeBackupName(folder, path);
+    WriteWholeFile(copy, bytes);
+    if (ReadWholeFile(copy) != bytes) throw Error(DeviceIoError);
+    return "The file \"" + TextOfPath(path.filename()) + "\" as it was before is kept as \"" +
+           TextOfPath(copy.filename()) + "\" in the folder \"Backup\".";
+}
+
+/// Copies what the file holds, unless that is nothing, known, or what is about to be written. What has been copied is
+/// known from then on.
+std::string CopiedIfUnknown(const Path& path, std::string_view replacement = {}) {
+    std::error_code failure;
+    if (fs::status(path, failure).type() == fs::file_type::not_found) return {};
+    try {
+        const std::string bytes = ReadWholeFile(path);
+        if (bytes.empty() || bytes == replacement) return {};
+        const auto known = KnownFiles.find(KeyOf(path));
+        if (known != KnownFiles.end() && known->second == KnownOf(bytes)) return {};
+        const std::string told = CopyBytesToBackup(path, bytes);
+        MarkFullyRead(path, bytes);
+        return told;
+    } catch (const std::exception& failed) {
+        throw CopyFailed(path, failed);
+    }
+}
+
+/// Copies what is unknown of the file, then runs `change`. The sentence of the copy is told also if the change fails.
+template <class Change>
+std::string Guarded(const Path& path, std::string_view replacement, Change&& change) {
+    const std::string told = CopiedIfUnknown(path, replacement);
+    try {
+        change();
+    } catch (const Error& error) {
+        if (told.empty()) throw;
+        throw Error(error.number(), error.what() + std::string(CrLf) + told);
+    }
+    return told;
 }
 }  // namespace
 
+std::string SaveDataFile(const Path& path, std::string_view bytes) {
+    return Guarded(path, bytes, [&] {
+        WriteWholeFile(path, bytes);
+        MarkFullyRead(path, bytes);
+    });
+}
+
+std::string DeleteDataFile(const Path& path) {
+    return Guarded(path, {}, [&] {
+        DeleteFile(path);
+        MarkNotFullyRead(path);
+    });
+}
+
+std::string RenameDataFile(const Path& from, const Path& to) {
+    return Guarded(to, {}, [&] {
+        RenameFile(from, to);
+        const auto known = KnownFiles.extract(KeyOf(from));
+        MarkNotFullyRead(to);
+        if (known) KnownFiles[KeyOf(to)] = known.mapped();
+    });
+}
+
 std::string CopyToBackup(const Path& path) {
-    std::error_code ignored;
-    if (!fs::exists(path, ignored)) return {};
+    std::error_code failure;
+    if (fs::status(path, failure).type() == fs::file_type::not_found) return {};
     try {
-        const std::string bytes = ReadWholeFile(path);
-        const Path folder = DataPath("Backup");
-        fs::create_directories(folder);
-        const Path copy = FreeBackupName(folder, path);
-        WriteWholeFile(copy, bytes);
-        if (ReadWholeFile(copy) != bytes) throw Error(DeviceIoError);
-        return "The file \"" + TextOfUtf8(path.filename().string()) +
-               "\" held something that was not read. It was kept as \"" + TextOfUtf8(copy.filename().string()) +
-               "\" in the folder \"Backup\".";
-    } catch (const std::exception& failure) {
-        throw Error(PathFileAccess, "The file \"" + TextOfUtf8(path.filename().string()) +
-                                        "\" could not be copied to \"Backup\" and was left as it is. " +
-                                        failure.what());
+        return CopyBytesToBackup(path, ReadWholeFile(path));
+    } catch (const std::exception& failed) {
+        throw CopyFailed(path, failed);
     }
 }
 

@@ -17,20 +17,29 @@ using Path = std::filesystem::path;
 /// opened, 57 if the disk fails.
 std::string ReadWholeFile(const Path& path);
 
-/// Parts the bytes into lines, ended by CR LF or bare LF; a last line without an end counts, an end at the very end
-/// begins no further line. The views point into `bytes`.
+/// Parts the bytes into lines, ended by CR LF or bare LF; a last line without an end, or with half of one (CR), counts;
+/// an end at the very end begins no further line. The views point into `bytes`.
 std::vector<std::string_view> LinesOf(std::string_view bytes);
 
-/// Puts the bytes in the file's place: temporary file in the same folder, every write's count checked, synced, its size
-/// checked, renamed over the old file, the folder synced. Keeps nothing of a read-only attribute in the way. A failure
-/// leaves the old file as it was, removes the temporary and throws Error 61 (disk full), 70, 75, 76 or 57.
+/// Puts the bytes in the file's place: a temporary file in the same folder, every write's count checked, synced, its
+/// size checked, renamed over the old file, the folder synced. Replaces a read-only file; what a link leads to, not the
+/// link. A failure leaves the old file as it was, removes the temporary and throws Error 61 (disk full), 70, 75, 76 or
+/// 57; only when the very last step fails, the syncing of the folder, the new file is in place already, whole.
 void WriteWholeFile(const Path& path, std::string_view bytes);
+
+/// Adds the bytes at the file's end, synced; makes the file if there is none. A failure cuts off what was added and
+/// throws what WriteWholeFile throws.
+void AppendToFile(const Path& path, std::string_view bytes);
 
 /// Deletes the file and syncs the folder. No file is no failure. Throws Error 70 or 75.
 void DeleteFile(const Path& path);
 
-/// Gives the file another name in the same folder, replacing what has that name. Throws Error 53, 70 or 75.
+/// Gives the file another name in the same folder, replacing what has that name. Throws Error 53, 70, 75 or 76.
 void RenameFile(const Path& from, const Path& to);
+
+/// Makes the folder, and those above it, if it is not there; synced, so that it outlives a crash as surely as the files
+/// saved in it. Throws Error 61, 70, 75 or 76.
+void MakeFolder(const Path& folder);
 
 // -- The data folder ----------------------------------------------------------------------------------------------
 
@@ -59,9 +68,10 @@ void MarkNotFullyRead(const Path& path);
 /// Marks a file as fully held in memory although its reader knows better than ReadDataLines.
 void MarkFullyRead(const Path& path, std::string_view bytes);
 
-/// Writes a data file. If what is on the disk now is not what was last fully read or written by this program, its
-/// exact bytes are first copied to "Backup". Returns "" or the sentence that tells of the copy, to be added to the
-/// save's message. Throws what WriteWholeFile throws, or Error 75 if the copy fails; then nothing is written.
+/// Writes a data file. If what is on the disk now is neither what was last fully read or written by this program nor
+/// what is to be written, its exact bytes are first copied to "Backup". Returns "" or the sentence that tells of the
+/// copy, to be added to the save's message. Throws what WriteWholeFile throws, with that sentence added to the
+/// description if a copy was made; or Error 75 if the copy fails, and then nothing is written.
 std::string SaveDataFile(const Path& path, std::string_view bytes);
 
 /// Deletes a data file under the same guard.

@@ -1,4 +1,4 @@
-// Existence tests that ignore the case of names.
+// File names as text, and existence tests that ignore their case.
 #include "base/modNoCase.h"
 
 #include "base/dialogs.h"
@@ -7,23 +7,26 @@
 
 namespace fs = std::filesystem;
 
+fs::path PathOfText(std::string_view name) {
+    const std::string utf8 = Utf8Of(name);
+    return std::u8string(utf8.begin(), utf8.end());
+}
+
+std::string TextOfPath(const fs::path& path) {
+    const std::u8string utf8 = path.u8string();
+    return TextOfUtf8(std::string(utf8.begin(), utf8.end()));
+}
+
 namespace {
 /// The entry that equals the name; throws std::filesystem::filesystem_error.
 std::optional<fs::path> FindEntry(const fs::path& folder, std::string_view name) {
     std::optional<fs::path> found;
     for (const auto& entry : fs::directory_iterator(folder)) {
-        const std::string text = TextOfUtf8(entry.path().filename().string());
+        const std::string text = TextOfPath(entry.path().filename());
         if (text == name) return entry.path();
         if (!found && EqualIgnoringCase(text, name)) found = entry.path();
     }
     return found;
-}
-
-/// The error number of a failed listing.
-int NumberOf(const std::error_code& code) {
-    if (code == std::errc::permission_denied) return PermissionDenied;
-    if (code == std::errc::no_such_file_or_directory) return PathNotFound;
-    return DeviceIoError;
 }
 }  // namespace
 
@@ -37,7 +40,7 @@ std::optional<fs::path> FindIgnoringCase(const fs::path& folder, std::string_vie
 
 bool FileExists(const fs::path& folder, std::string_view name) {
     std::error_code failure;
-    const fs::path exact = folder / fs::u8path(Utf8Of(name));
+    const fs::path exact = folder / PathOfText(name);
     const auto found = fs::exists(exact, failure) ? exact : FindIgnoringCase(folder, name);
     return found && !fs::is_directory(*found, failure);
 }
@@ -47,7 +50,8 @@ bool FolderExists(const fs::path& parent, std::string_view name) {
         const auto found = FindEntry(parent, name);
         return found && fs::is_directory(*found);
     } catch (const fs::filesystem_error& failure) {
-        const int number = NumberOf(failure.code());
+        const int code = NumberOf(failure.code());
+        const int number = code == FileNotFound ? PathNotFound : code;  // what is missing is the parent
         ShowMessage("Error encountered during Events Folder check." + std::string(CrLf) +
                     "Error Number: " + std::to_string(number) + CrLf + "Error Description: " + DescriptionOf(number));
         return false;

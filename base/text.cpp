@@ -50,24 +50,34 @@ std::string Utf8Of(std::string_view text) {
 }
 
 namespace {
-/// Takes one character off the front of UTF-8; 0xFFFFFFFF for a byte that begins none.
-char32_t TakeCharacter(std::string_view& utf8) {
-    const auto lead = static_cast<unsigned char>(utf8.front());
-    const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : lead >= 0xC2 ? 2 : 0;
-    if (length == 0 || length > utf8.size()) {
-        utf8.remove_prefix(1);
-        return 0xFFFFFFFF;
-    }
-    char32_t character = length == 1 ? lead : lead & (0x7Fu >> length);
-    for (std::size_t i = 1; i < length; ++i) {
-        const auto next = static_cast<unsigned char>(utf8[i]);
-        if ((next & 0xC0) != 0x80) {
-            utf8.remove_prefix(1);
-            return 0xFFFFFFFF;
-        }
+constexpr char32_t NoCharacter = 0xFFFFFFFF;
+
+/// The length that a first byte announces, 0 for a byte that begins no character.
+std::size_t LengthOfUtf8(unsigned char lead) {
+    if (lead < 0x80) return 1;
+    if (lead < 0xC2 || lead > 0xF4) return 0;
+    return lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+}
+
+/// The character that these bytes are as a whole; NoCharacter for bytes that are none.
+char32_t CharacterOfUtf8(std::string_view bytes) {
+    static constexpr std::array<char32_t, 5> Smallest{0, 0, 0x80, 0x800, 0x10000};
+    char32_t character = static_cast<unsigned char>(bytes.front());
+    if (bytes.size() > 1) character &= 0x7Fu >> bytes.size();
+    for (const char byte : bytes.substr(1)) {
+        const auto next = static_cast<unsigned char>(byte);
+        if ((next & 0xC0) != 0x80) return NoCharacter;
         character = (character << 6) | (next & 0x3F);
     }
-    utf8.remove_prefix(length);
+    return character < Smallest.at(bytes.size()) ? NoCharacter : character;
+}
+
+/// Takes one character off the front of UTF-8; of what is none, one byte.
+char32_t TakeCharacter(std::string_view& utf8) {
+    const std::size_t length = LengthOfUtf8(static_cast<unsigned char>(utf8.front()));
+    const bool whole = length != 0 && length <= utf8.size();
+    const char32_t character = whole ? CharacterOfUtf8(utf8.substr(0, length)) : NoCharacter;
+    utf8.remove_prefix(character == NoCharacter ? 1 : length);
     return character;
 }
 }  // namespace
@@ -271,7 +281,9 @@ int CompareInListOrder(std::string_view a, std::string_view b) {
 
 std::size_t InsertInListOrder(std::vector<std::string>& list, std::string entry) {
     const auto place = std::upper_bound(list.begin(), list.end(), entry, InListOrder());
-    return static_cast<std::size_t>(list.insert(place, std::move(entry)) - list.begin());
+    const auto index = place - list.begin();
+    list.insert(place, std::move(entry));
+    return static_cast<std::size_t>(index);
 }
 
 // -- Pieces -------------------------------------------------------------------------------------------------------
@@ -283,6 +295,7 @@ std::string_view Trimmed(std::string_view text) {
 }
 
 std::string_view Middle(std::string_view text, std::size_t first, std::size_t length) {
+    if (first == 0) throw Error(InvalidCall);
     return first > text.size() ? std::string_view() : text.substr(first - 1, length);
 }
 
@@ -295,6 +308,7 @@ std::string DecodedLineBreaks(std::string_view text) {
 }
 
 std::string Replaced(std::string_view text, std::string_view what, std::string_view with) {
+    if (what.empty()) return std::string(text);
     std::string result;
     std::size_t done = 0;
     for (auto at = text.find(what); at != std::string_view::npos; at = text.find(what, done)) {
@@ -307,7 +321,8 @@ std::string Replaced(std::string_view text, std::string_view what, std::string_v
 // -- Numbers ------------------------------------------------------------------------------------------------------
 
 std::string Padded(std::int64_t number, int width) {
-    std::string digits = std::to_string(number < 0 ? -number : number);
+    std::string digits = std::to_string(number);
+    if (number < 0) digits.erase(0, 1);
     if (digits.size() < static_cast<std::size_t>(width))
         digits.insert(0, static_cast<std::size_t>(width) - digits.size(), '0');
     return number < 0 ? "-" + digits : digits;

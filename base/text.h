@@ -22,7 +22,7 @@ std::string Utf8Of(std::string_view text);
 /// UTF-8 as text. Characters that the code page does not have, and bytes that are no UTF-8, become "?".
 std::string TextOfUtf8(std::string_view utf8);
 
-/// "This text holds characters that cannot be saved: ..." in UTF-8; `misfitsUtf8` lists the characters.
+/// The message, in UTF-8, that refuses to save a text; `misfitsUtf8` lists the characters that do not fit.
 std::string MisfitMessage(std::string_view misfitsUtf8);
 
 // -- Letters ------------------------------------------------------------------------------------------------------
@@ -61,13 +61,15 @@ std::size_t InsertInListOrder(std::vector<std::string>& list, std::string entry)
 /// Without the blanks at both ends (blanks only: tabs and line breaks stay).
 std::string_view Trimmed(std::string_view text);
 
-/// The characters from `first` (counted from 1), `length` of them or as many as there are; "" past the end.
+/// The characters from `first` (counted from 1), `length` of them or as many as there are; "" past the end. Throws
+/// Error 5 for a `first` of 0.
 std::string_view Middle(std::string_view text, std::size_t first, std::size_t length = std::string_view::npos);
 
 /// A note or message as its one line in a file: carriage return and line feed become the codes 213 and 210.
 std::string EncodedLineBreaks(std::string_view text);
 std::string DecodedLineBreaks(std::string_view text);
 
+/// Every `what` in the text replaced, from the left; the text as it stands where `what` is "".
 std::string Replaced(std::string_view text, std::string_view what, std::string_view with);
 
 // -- Numbers ------------------------------------------------------------------------------------------------------

@@ -19,7 +19,9 @@ namespace {
 int DayOfCell(int year, Cell cell) { return cell.row * ColumnsInGrid + cell.column - Lead(year, cell.month) + 1; }
 }  // namespace
 
-bool HasDate(int year, Cell cell) { return cell.valid() && IsDate(year, cell.month + 1, DayOfCell(year, cell)); }
+bool HasDate(int year, Cell cell) {
+    return cell.valid() && IsDate(year, cell.month + 1, 1) && IsDate(year, cell.month + 1, DayOfCell(year, cell));
+}
 
 Date DateOfCell(int year, Cell cell) {
     if (!cell.valid()) throw Error(SubscriptOutOfRange);

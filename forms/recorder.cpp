@@ -2,15 +2,19 @@
 #include "forms/recorder.h"
 
 #include <algorithm>
+#include <array>
+#include <charconv>
 #include <cstdio>
 
-#include "base/text.h"
+#include "base/modNoCase.h"
 
 namespace {
 std::string Number(double value) {
-    char digits[40];
-    std::snprintf(digits, sizeof digits, "%.3f", value);
-    std::string text = digits;
+    std::array<char, 400> digits{};
+    // Not printf: it would write the decimal point of the machine's locale.
+    const auto end =
+        std::to_chars(digits.data(), digits.data() + digits.size(), value, std::chars_format::fixed, 3).ptr;
+    std::string text(digits.data(), end);
     text.erase(text.find_last_not_of('0') + 1);
     if (text.ends_with('.')) text.pop_back();
     return text == "-0" ? "0" : text;
@@ -59,7 +63,7 @@ double Recorder::textWidth(std::string_view text, const Font& font) {
 }
 
 void Recorder::picture(double x, double y, double width, double height, const Path& file) {
-    calls_.push_back("picture" + Numbers({x, y, width, height}) + " " + TextOfUtf8(file.filename().string()));
+    calls_.push_back("picture" + Numbers({x, y, width, height}) + " " + TextOfPath(file.filename()));
 }
 
 void Recorder::newPage() { calls_.emplace_back("page"); }

@@ -359,12 +359,6 @@ std::string BytesOf(const IconLines& lines) {
     return bytes;
 }
 
-void MakeFolder(const Path& folder) {
-    std::error_code failed;
-    std::filesystem::create_directories(folder, failed);
-    if (failed) throw Error(PathFileAccess);
-}
-
 bool WriteTemplate() {
     return Reporting("SaveTemplateIcons", [] {
         CountLines();

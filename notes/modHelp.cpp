@@ -7,11 +7,11 @@
 #include "base/state.h"
 #include "base/text.h"
 
-HelpState Help;
+HelpState HelpTopics;
 std::function<void()> ShowHelpTopics;
 
 namespace {
-const ClearedAtStart ClearHelp([] { Help = {}; });
+const ClearedAtStart ClearHelp([] { HelpTopics = {}; });
 
 /// A file edited elsewhere may end its lines with a bare line feed, or lack the line break altogether: only what is a
 /// line break is taken off, so that no letter of a topic is lost.
@@ -26,12 +26,12 @@ std::string_view WithoutLineBreakAtEnd(std::string_view text) {
 }
 
 void AddTopic(std::string_view raw) {
-    if (Help.titles.size() == MostHelpTopics) throw Error(Overflow);
+    if (HelpTopics.titles.size() == MostHelpTopics) throw Error(Overflow);
     const auto colon = raw.find(':');
     const bool hasText = colon != std::string_view::npos;
-    Help.rawTopics.emplace_back(raw);
-    Help.titles.emplace_back(raw.substr(0, colon));
-    Help.texts.emplace_back(hasText ? WithoutLineBreakInFront(raw.substr(colon + 1)) : std::string_view());
+    HelpTopics.rawTopics.emplace_back(raw);
+    HelpTopics.titles.emplace_back(raw.substr(0, colon));
+    HelpTopics.texts.emplace_back(hasText ? WithoutLineBreakInFront(raw.substr(colon + 1)) : std::string_view());
 }
 
 void SplitTopics(std::string_view all) {
@@ -45,7 +45,7 @@ void SplitTopics(std::string_view all) {
 }  // namespace
 
 void ReadHelpTopics() {
-    Help = {};
+    HelpTopics = {};
     const std::string all = ReadWholeFile(DataPath("Help_Topics.txt"));
     try {
         SplitTopics(all);
@@ -56,18 +56,22 @@ void ReadHelpTopics() {
     if (ShowHelpTopics) ShowHelpTopics();
 }
 
+std::string_view HelpText(std::size_t topic) {
+    return topic < HelpTopics.texts.size() ? std::string_view(HelpTopics.texts[topic]) : std::string_view();
+}
+
 std::optional<HelpHit> FindInHelp(std::string_view phrase) {
-    for (; Help.topic < Help.texts.size(); ++Help.topic, Help.position = 1) {
-        const auto found = FindIgnoringCase(Help.texts[Help.topic], phrase, Help.position - 1);
+    for (; HelpTopics.topic < HelpTopics.texts.size(); ++HelpTopics.topic, HelpTopics.position = 1) {
+        const auto found = FindIgnoringCase(HelpTopics.texts[HelpTopics.topic], phrase, HelpTopics.position - 1);
         if (found == std::string::npos) continue;
-        Help.position = found + 2;
-        return HelpHit{Help.topic, found};
+        HelpTopics.position = found + 2;
+        return HelpHit{HelpTopics.topic, found};
     }
     StartHelpSearchOver();
     return std::nullopt;
 }
 
 void StartHelpSearchOver() {
-    Help.topic = 0;
-    Help.position = 1;
+    HelpTopics.topic = 0;
+    HelpTopics.position = 1;
 }

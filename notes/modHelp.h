@@ -14,18 +14,22 @@ struct HelpState {
     std::vector<std::string> rawTopics;  // title, colon and text as the file has them
     std::vector<std::string> titles;
     std::vector<std::string> texts;  // lines parted as in the file, by CR LF
+    std::size_t panelTopic = 0;      // the topic that the main window's panel shows
     std::size_t topic = 0;           // where "Find Again" goes on: the topic,
     std::size_t position = 1;        // and the position in its text, counted from 1
 };
-extern HelpState Help;
+extern HelpState HelpTopics;
 
-inline auto& HelpTitles = Help.titles;
-inline auto& HelpTexts = Help.texts;
+inline auto& HelpTitles = HelpTopics.titles;
+inline auto& HelpTexts = HelpTopics.texts;
 
 /// Reads the topics, then shows them through the hook. A text without "*" has no topics; a topic without ":" is all
 /// title. Throws Error 53 if there is no file, what ReadWholeFile throws if it cannot be read, Error 6 after the
 /// 32,767th topic; the topics before it stay.
 void ReadHelpTopics();
+
+/// The text of a topic; "" where there is no such topic.
+std::string_view HelpText(std::size_t topic);
 
 /// Where a phrase was found.
 struct HelpHit {

@@ -122,7 +122,7 @@ std::string BytesOf(const NotesOfYear& notes) {
 
 void WriteNotes(const NotesOfYear& notes) {
     const Path folder = YearFolder(notes.year);
-    std::filesystem::create_directories(folder);
+    MakeFolder(folder);
     const std::string told = SaveDataFile(PathInFolder(folder, NotesFile), BytesOf(notes));
     ShowMessage(told.empty() ? "Notes Saved" : std::string("Notes Saved") + CrLf + CrLf + told);
 }

@@ -5,15 +5,13 @@
 #include <utility>
 
 #include "base/clock.h"
-#include "base/dialogs.h"
-#include "base/files.h"
 #include "base/listEntries.h"
-#include "base/modNoCase.h"
 #include "base/state.h"
 #include "base/text.h"
 #include "calendar/modCalendar.h"
 #include "marks/modCategories.h"
 #include "reminders/modMonthDay.h"
+#include "reminders/modReminderFile.h"
 #include "shell/modErrors.h"
 
 BirthdayState BirthdayTables;
@@ -45,18 +43,17 @@ void SetIndicator() {
     if (ShowBirthdayIndicator) ShowBirthdayIndicator();
 }
 
-void AddBirthday(std::string_view line, int number, Date today, BadLines& bad) {
-    if (line.empty()) return;
+bool AddBirthday(std::string_view line, Date today) {
     BirthdayLine.emplace_back(line);
     BirthdayRec& record = Birthday.emplace_back();
     std::string& pending = PendingBirthdayLine.emplace_back();
     ++BirthdayCount;
-    if (!ParseBirthday(line, record)) {
-        bad.add(number);
-    } else if (IsPending(record, today)) {
+    if (!ParseBirthday(line, record)) return false;
+    if (IsPending(record, today)) {
         pending = line;
         ++PendingBirthdayCount;
     }
+    return true;
 }
 
 /// Fills the slot's cells from the birthdays.
@@ -84,30 +81,6 @@ void JoinCellsAgain() {
             JoinCells(slot);
         else
             BirthdayTables.years[slot] = {};
-}
-
-void ReadBirthdayFile() {
-    BadLines bad(BirthdayFile);
-    const Date today = Today();
-    if (FileExists(DataFolder(), BirthdayFile))
-        ReadDataLines(DataPath(BirthdayFile),
-                      [&](std::string_view line, int number) { AddBirthday(line, number, today, bad); });
-    bad.tell();
-}
-
-void WriteBirthdays(bool keepPrevious) {
-    const Path path = DataPath(BirthdayFile);
-    std::string told = keepPrevious ? CopyToBackup(path) : "";
-    std::string bytes;
-    for (const std::string& line : BirthdayMasterList)
-        if (!line.empty()) bytes.append(line).append(CrLf);
-    const std::string kept = bytes.empty() ? DeleteDataFile(path) : SaveDataFile(path, bytes);
-    if (told.empty()) told = kept;
-    const bool quiet = std::exchange(QuietBirthdaySave, false);
-    if (bytes.empty() || quiet)
-        TellOfBackup(told);
-    else
-        ShowMessage(told.empty() ? "Birthdays Updated." : "Birthdays Updated." + std::string(CrLf) + told);
 }
 
 void MarkBirthdays(Year slot) {
@@ -140,15 +113,18 @@ void ReadBirthdays() {
     Birthday.clear();
     PendingBirthdayLine.clear();
     BirthdayCount = PendingBirthdayCount = 0;
-    Reporting("ReadBirthdays", ReadBirthdayFile);
+    Reporting("ReadBirthdays", [today = Today()] {
+        ReadReminderLines(BirthdayFile, [&](std::string_view line) { return AddBirthday(line, today); });
+    });
     JoinCellsAgain();
     SetIndicator();
 }
 
 bool SaveBirthdays(bool keepPrevious) {
-    const bool saved = Reporting("SaveBirthdays", [&] { WriteBirthdays(keepPrevious); });
-    QuietBirthdaySave = false;
-    return saved;
+    const bool quiet = std::exchange(QuietBirthdaySave, false);
+    return Reporting("SaveBirthdays", [&] {
+        SaveReminderLines(BirthdayFile, BirthdayMasterList, {keepPrevious, quiet ? nullptr : "Birthdays Updated."});
+    });
 }
 
 void ReadAndMarkBirthdays() {

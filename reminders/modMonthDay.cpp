@@ -1,9 +1,6 @@
-// Months and days of lines, the painting of flagged days, and the telling of bad lines.
+// Months and days of lines, and the painting of flagged days.
 #include "reminders/modMonthDay.h"
 
-#include <algorithm>
-
-#include "base/errors.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 
@@ -29,15 +26,4 @@ void PaintFlaggedDays(Year slot, const Grid<bool>& flag, Color fill) {
     ForEachCell([&](Cell cell) {
         if (flag[cell]) PaintDay(slot, cell, DayOf(DateOfCell(year, cell)), fill);
     });
-}
-
-void BadLines::tell() const {
-    if (numbers_.empty()) return;
-    constexpr std::size_t Named = 5;  // more would only lengthen the box
-    std::string list;
-    for (std::size_t i = 0; i < std::min(Named, numbers_.size()); ++i)
-        list += (i > 0 ? ", " : "") + std::to_string(numbers_[i]);
-    if (numbers_.size() > Named) list += " and " + std::to_string(numbers_.size() - Named) + " more";
-    throw Error(TypeMismatch, DescriptionOf(TypeMismatch) + " in \"" + file_ + "\", line " + list +
-                                  ". What could not be read is kept as it stands.");
 }

@@ -12,9 +12,8 @@ constexpr std::size_t LargestLog = 32766;  // positions in the log are 16-bit nu
 
 void AppendToLog(const std::string& text) {
     const Path path = DataPath("Error.log");
-    const std::string log = FileExists(DataFolder(), "Error.log") ? ReadWholeFile(path) : std::string();
-    if (log.size() > LargestLog) throw Error(Overflow);
-    WriteWholeFile(path, log + text);
+    if (FileExists(DataFolder(), "Error.log") && std::filesystem::file_size(path) > LargestLog) throw Error(Overflow);
+    AppendToFile(path, text);
 }
 }  // namespace
 

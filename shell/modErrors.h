@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "base/errors.h"
+#include "base/text.h"
 
 /// Shows the report in a box titled "Program Error" and appends it to "Error.log".
 void ReportError(const std::string& procedureName, int errorNumber, const std::string& errorDescription);
@@ -22,7 +23,7 @@ bool Reporting(const char* procedureName, Body&& body) {
     } catch (const Error& error) {
         ReportError(procedureName, error.number(), error.what());
     } catch (const std::exception& failure) {
-        ReportError(procedureName, DeviceIoError, failure.what());
+        ReportError(procedureName, DeviceIoError, TextOfUtf8(failure.what()));
     }
     return false;
 }

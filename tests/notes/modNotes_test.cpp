@@ -156,7 +156,6 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     typed = "the disk is full";
     SetDisk({Disk().read, [](const Path&, std::string_view) { throw Error(DiskFull); }, Disk().remove, Disk().rename});
     boxes.expect("SaveThisYearsNotes");
-    boxes.expect("Error.log");
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");

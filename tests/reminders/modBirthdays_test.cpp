@@ -125,7 +125,6 @@ TEST_F(Birthdays, AreSavedInListOrderAndQuietlyTheFirstTime) {
     dialogs_.expect("Birthdays Updated.");
     EXPECT_TRUE(SaveBirthdays());
     BirthdayMasterList.clear();
-    dialogs_.expect("Backup");
     EXPECT_TRUE(SaveBirthdays(true));
     EXPECT_FALSE(folder_.has("Birthdays.dat"));
     EXPECT_EQ(folder_.backups(), "01/02:00:A:****\r\n07/04:05:B:1931\r\n");

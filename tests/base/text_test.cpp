@@ -1,0 +1,187 @@
+// Text as the files hold it: the code page, letter case, list order, pieces and numbers.
+#include "base/text.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "base/errors.h"
+
+namespace {
+std::string AllBytes() {
+    std::string all;
+    for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
+    return all;
+}
+
+/// The number of the error that the call throws, 0 if it throws none.
+template <class Call>
+int ErrorOf(Call call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+}  // namespace
+
+TEST(Text, EveryByteSurvivesTheWayOutAndBack) {
+    const std::string utf8 = Utf8Of(AllBytes());
+    EXPECT_EQ(TextOfUtf8(utf8), AllBytes());
+    for (int code = 0; code < 256; ++code)
+        EXPECT_EQ(CodeOf(CodePageTable()[static_cast<std::size_t>(code)]), code) << code;
+    EXPECT_EQ(Utf8Of("\x80\x85\x99\x9F\xD2\xE0"),
+              "€…™Ÿ"
+              "Òà");
+}
+
+TEST(Text, WhatIsNoTextOfTheCodePageBecomesQuestionMarks) {
+    const struct {
+        const char* utf8;
+        const char* text;
+    } rows[] = {{"Ж1", "?1"},
+                {"\xF0\x9F\x99\x82.", "?."},  // beyond 16 bits
+                {"\xC2\x80", "?"},            // U+0080 has no code
+                {"a\xFF"
+                 "b",
+                 "a?b"},                            // no UTF-8 at all
+                {"\xE2\x82", "??"},                 // cut off
+                {"\xC0\xAF", "??"},                 // "/" in two bytes
+                {"\xE0\x80\xAF", "???"},            // "/" in three
+                {"\xF8\x80\x80\x80\x80", "?????"},  // a length that does not exist
+                {"\xC3(", "?("}};
+    for (const auto& [utf8, text] : rows) EXPECT_EQ(TextOfUtf8(utf8), text) << text;
+    EXPECT_EQ(CodeOf(0x80), -1);
+    EXPECT_EQ(CodeOf(0x81), 0x81);
+    EXPECT_EQ(CodeOf(0x100), -1);
+}
+
+TEST(Text, CaseMappingPairsTheLettersThatHaveTwoForms) {
+    const std::string small = "abz\xE0\xF6\xF8\xFE\x9A\x9C\x9E\xFF";
+    const std::string capital = "ABZ\xC0\xD6\xD8\xDE\x8A\x8C\x8E\x9F";
+    EXPECT_EQ(UpperCase(small), capital);
+    EXPECT_EQ(LowerCase(capital), small);
+    const std::string alone = "19@[`{\xD7\xF7\xDF\x83\xB5\xAA";  // have one form only
+    EXPECT_EQ(UpperCase(alone), alone);
+    EXPECT_EQ(LowerCase(alone), alone);
+    for (const char c : AllBytes()) {
+        EXPECT_EQ(UpperCase(LowerCase(c)), UpperCase(c)) << int(c);
+        EXPECT_EQ(LowerCase(UpperCase(c)), LowerCase(c)) << int(c);
+    }
+    EXPECT_EQ(ProperCase("mARY o'neil-sMITH 2nd \xE9ric"), "Mary O'neil-Smith 2nd \xC9ric");
+}
+
+TEST(Text, IsFoundIgnoringCase) {
+    const struct {
+        const char* text;
+        const char* phrase;
+        std::size_t from;
+        std::size_t at;
+    } rows[] = {{"A Dentist", "DENT", 0, 2},
+                {"xXxy", "xy", 0, 2},
+                {"dDdD", "dd", 1, 1},
+                {"abc", "abcd", 0, std::string::npos},
+                {"abc", "", 3, 3},
+                {"abc", "", 4, std::string::npos},
+                {"\xC9t\xE9", "\xC9", 1, 2},
+                {"12-12", "12", 1, 3},
+                {"aab", "ab", 0, 1},
+                {"abc", "c", 2, 2},
+                {"abc", "a", 1, std::string::npos}};
+    for (const auto& [text, phrase, from, at] : rows) EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
+    EXPECT_TRUE(EqualIgnoringCase("M\xDCLLER", "m\xFCller"));
+    EXPECT_FALSE(EqualIgnoringCase("a", "ab"));
+}
+
+TEST(Text, ListOrderIsLettersThenAccentsThenCodes) {
+    const std::vector<std::string> ordered{"",
+                                           " a",
+                                           "-",
+                                           "\x80",
+                                           "1",
+                                           "10",
+                                           "2",
+                                           "A",
+                                           "a",
+                                           "AB",
+                                           "ab",
+                                           "\xC4"
+                                           "b",
+                                           "aC",
+                                           "\xC6"
+                                           "a",
+                                           "B",
+                                           "co-op",
+                                           "coat",
+                                           "coop",
+                                           "\xC9",
+                                           "\xE9",
+                                           "Eb",
+                                           "z",
+                                           "\x9E",
+                                           "zz"};
+    for (std::size_t i = 0; i < ordered.size(); ++i)
+        for (std::size_t j = 0; j < ordered.size(); ++j) {
+            const int order = CompareInListOrder(ordered[i], ordered[j]);
+            EXPECT_EQ(order < 0, i < j) << i << " \"" << ordered[i] << "\" and " << j << " \"" << ordered[j] << '"';
+            EXPECT_EQ(order == 0, i == j);
+        }
+    std::vector<std::string> list;
+    for (auto entry = ordered.rbegin(); entry != ordered.rend(); ++entry)
+        EXPECT_EQ(InsertInListOrder(list, *entry), 0u);
+    EXPECT_EQ(list, ordered);
+    EXPECT_EQ(InsertInListOrder(list, "aB"), 10u);  // between "AB" and "ab"
+}
+
+TEST(Text, PiecesStayWithinTheText) {
+    EXPECT_EQ(Middle("abcdef", 1, 2), "ab");
+    EXPECT_EQ(Middle("abcdef", 6, 9), "f");
+    EXPECT_EQ(Middle("abcdef", 7), "");
+    EXPECT_EQ(Middle("abcdef", 99, 1), "");
+    EXPECT_EQ(ErrorOf([] { Middle("abc", 0); }), InvalidCall);
+    EXPECT_EQ(Trimmed("  a\t "), "a\t");
+    EXPECT_EQ(Trimmed("   "), "");
+    EXPECT_EQ(Replaced("aXXbX", "X", "yX"), "ayXyXbyX");
+    EXPECT_EQ(Replaced("abc", "", "x"), "abc");
+    EXPECT_EQ(EncodedLineBreaks("a\r\nb"),
+              "a\xD5\xD2"
+              "b");
+    EXPECT_EQ(DecodedLineBreaks("a\xD5\xD2"
+                                "b"),
+              "a\r\nb");
+}
+
+TEST(Text, NumbersAreReadWholeOrRefused) {
+    const struct {
+        const char* text;
+        std::int64_t value;
+        int error;
+    } rows[] = {{"7", 7, 0},
+                {" +7 ", 7, 0},
+                {"007", 7, 0},
+                {"-32768", -32768, 0},
+                {"32767", 32767, 0},
+                {"32768", 0, Overflow},
+                {"-32769", 0, Overflow},
+                {"99999999999999999999", 0, Overflow},
+                {"", 0, TypeMismatch},
+                {" ", 0, TypeMismatch},
+                {"-", 0, TypeMismatch},
+                {"+-7", 0, TypeMismatch},
+                {"7a", 0, TypeMismatch},
+                {"1 2", 0, TypeMismatch},
+                {"1.5", 0, TypeMismatch}};
+    for (const auto& [text, value, error] : rows) {
+        std::int64_t read = 0;
+        EXPECT_EQ(ErrorOf([&read, text = text] { read = SmallIntegerValue(text); }), error) << text;
+        EXPECT_EQ(read, value) << text;
+    }
+    EXPECT_EQ(IntegerValue("16777215"), 16777215);
+    EXPECT_EQ(Padded(7, 5), "00007");
+    EXPECT_EQ(Padded(-7, 2), "-07");
+    EXPECT_EQ(Padded(INT64_MIN, 2), "-9223372036854775808");
+    EXPECT_EQ(WithThousands(31999), "31,999");
+    EXPECT_EQ(WithThousands(-1000000), "-1,000,000");
+    EXPECT_EQ(WithThousands(999), "999");
+}

@@ -1,0 +1,66 @@
+// The help window and the side panel's help.
+#include "notes/frmHelp.h"
+
+#include <QApplication>
+#include <QTest>
+
+#include "notes/frmHelpPanel.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct HelpWindow : testing::Test {
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    HelpPanel panel;
+
+    void read(const std::string& file) const {
+        folder.put("Help_Topics.txt", file);
+        ReadHelpTopics();
+    }
+    void TearDown() override { UnloadAllWindows(); }
+};
+}  // namespace
+
+TEST_F(HelpWindow, ShowsTheTopicOfThePanel) {
+    EXPECT_EQ(panel.cmbHelp->count(), 0);
+    read("*One:\r\nfirst\r\n*Two:\r\nsecond\r\nline\r\n*Three:\r\nthird");
+    EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("first"));
+    panel.cmbHelp->setCurrentIndex(1);
+    Q_EMIT panel.cmbHelp->activated(1);
+    EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("second\nline"));
+    QTest::mouseClick(panel.imgHelp, Qt::LeftButton);
+    auto* window = OpenedWindow<frmHelp>();
+    ASSERT_NE(window, nullptr);
+    EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("second\nline"));
+    window->lstHelp->setCurrentRow(2);
+    EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("third"));
+    OpenHelp();
+    EXPECT_EQ(window->lstHelp->count(), 3);
+}
+
+TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
+    read("*One:\r\na\r\n*Two:\r\n1\r\n2\r\n3 Calendar VIEW\r\ncalendar view\r\n");
+    OpenHelp();
+    auto* window = OpenedWindow<frmHelp>();
+    auto* const again = window->cmdSearch[1];
+    EXPECT_FALSE(again->isEnabled());
+    dialogs.expect("Nothing to search for.");
+    window->cmdSearch[0]->click();
+    window->txtSearch->setText(QStringLiteral("absent"));
+    dialogs.expect("Search Phrase not Found");
+    window->cmdSearch[0]->click();
+    window->txtSearch->setText(QStringLiteral("calendar view"));
+    for (int times = 0; times < 2; ++times) {
+        window->cmdSearch[0]->click();
+        EXPECT_EQ(window->lstHelp->currentRow(), 1);
+        EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("Calendar VIEW"));
+        again->click();
+        EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("calendar view"));
+        dialogs.expect("End of Search");
+        again->click();
+        EXPECT_FALSE(again->isEnabled());
+    }
+    dialogs.expect("null search");
+    window->item(QStringLiteral("mnuHelp"))->trigger();
+}
