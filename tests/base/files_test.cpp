@@ -1,0 +1,341 @@
+// Whole files on disks that work and disks that fail; the guard of what nobody has read.
+#include "base/files.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+
+#include "base/diskio.h"
+#include "base/errors.h"
+#include "base/modNoCase.h"
+#include "base/state.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/disk.h"
+#include "tests/support/folder.h"
+
+#ifdef __unix__
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+
+namespace fs = std::filesystem;
+using namespace std::string_literals;
+
+namespace {
+/// The number of the error that the call throws, 0 if it throws none.
+template <class Call>
+int ErrorOf(Call call) {
+    try {
+        call();
+    } catch (const Error& error) {
+        return error.number();
+    }
+    return 0;
+}
+
+class Files : public testing::Test {
+  protected:
+    Path at(std::string_view name) const { return folder.path() / name; }
+    std::size_t entries(std::string_view name = "") const {
+        return static_cast<std::size_t>(std::distance(fs::directory_iterator(at(name)), {}));
+    }
+    TemporaryFolder folder;
+};
+using Guard = Files;
+}  // namespace
+
+TEST_F(Files, AreReadIntoLines) {
+    const struct {
+        const char* name;
+        std::string bytes;
+        std::vector<std::string_view> lines;
+    } rows[] = {{"empty", "", {}},
+                {"CR LF", "a\r\nb\r\n", {"a", "b"}},
+                {"bare LF", "a\nb\n", {"a", "b"}},
+                {"mixed", "a\nb\r\n\r\n\nc", {"a", "b", "", "", "c"}},
+                {"no end", "a\r\nb", {"a", "b"}},
+                {"half an end", "a\r\nb\r", {"a", "b"}},
+                {"only an end", "\r\n", {""}},
+                {"CR inside", "a\rb\r\n", {"a\rb"}},
+                {"two CR", "a\r\r\n", {"a\r"}},
+                {"NUL", "a\0b\r\n\0"s, {std::string_view("a\0b", 3), std::string_view("\0", 1)}}};
+    for (const auto& row : rows) EXPECT_EQ(LinesOf(row.bytes), row.lines) << row.name;
+}
+
+TEST_F(Files, AreWrittenAsTheyAre) {
+    for (const std::string& bytes : {""s, "old\r\n"s, "\0\x1A\xFF\r\n\n"s, std::string(3 << 20, 'x'), "new"s}) {
+        WriteWholeFile(at("a.dat"), bytes);
+        EXPECT_EQ(ReadWholeFile(at("a.dat")), bytes);
+    }
+    AppendToFile(at("log"), "one");
+    AppendToFile(at("log"), "two");
+    EXPECT_EQ(folder.get("log"), "onetwo");
+    RenameFile(at("log"), at("a.dat"));
+    EXPECT_EQ(folder.get("a.dat"), "onetwo");
+    DeleteFile(at("a.dat"));
+    DeleteFile(at("a.dat"));
+    EXPECT_EQ(entries(), 0u);
+    MakeFolder(at("2009/deep"));
+    MakeFolder(at("2009/deep"));
+    EXPECT_TRUE(fs::is_directory(at("2009/deep")));
+}
+
+TEST_F(Files, SayWhatIsWrong) {
+    const std::function<void(const Path&)> calls[] = {
+        [](const Path& path) { ReadWholeFile(path); },
+        [](const Path& path) { WriteWholeFile(path, "y"); },
+        [](const Path& path) { AppendToFile(path, "y"); },
+        [](const Path& path) { RenameFile(path, path.parent_path() / "to"); },
+        DeleteFile,
+        MakeFolder};
+    const struct {
+        std::string name;
+        int errors[6];
+    } rows[] = {{"none", {FileNotFound, 0, 0, FileNotFound, 0, 0}},
+                {"nowhere/file", {PathNotFound, PathNotFound, PathNotFound, PathNotFound, 0, 0}},
+                {"file/file", {PathNotFound, PathNotFound, PathNotFound, PathNotFound, 0, PathFileAccess}},
+                {"folder", {PathFileAccess, PathFileAccess, PathFileAccess, 0, PathFileAccess, 0}},
+                {"file", {0, 0, 0, 0, 0, PathFileAccess}},
+                {"loop", {PathFileAccess, PathFileAccess, PathFileAccess, 0, 0, PathFileAccess}},
+                {"astray", {FileNotFound, PathNotFound, FileNotFound, 0, 0, PathFileAccess}},
+                {std::string(300, 'n'),
+                 {PathFileAccess, PathFileAccess, PathFileAccess, PathFileAccess, PathFileAccess, PathFileAccess}}};
+    for (const auto& row : rows)
+        for (std::size_t call = 0; call < 6; ++call) {
+            const TemporaryFolder fresh;
+            fresh.put("file", "x");
+            MakeFolder(fresh.path() / "folder");
+            fs::create_symlink("loop", fresh.path() / "loop");
+            fs::create_symlink("nowhere/file", fresh.path() / "astray");
+            EXPECT_EQ(ErrorOf([&] { calls[call](fresh.path() / row.name); }), row.errors[call]) << row.name << call;
+            for (const auto& entry : fs::directory_iterator(fresh.path()))
+                EXPECT_NE(entry.path().extension(), ".tmp") << row.name << call;
+        }
+}
+
+#ifdef __unix__
+TEST_F(Files, KeepLinksPermissionsAndWaitForNoPipe) {
+    folder.put("real/notes", "old");
+    fs::create_symlink("real/notes", at("link"));
+    fs::create_symlink(at("link"), at("link to link"));
+    fs::create_symlink("real/new", at("link to none"));
+    WriteWholeFile(at("link to link"), "new");
+    WriteWholeFile(at("link to none"), "made");
+    EXPECT_TRUE(fs::is_symlink(at("link to link")) && fs::is_symlink(at("link to none")));
+    EXPECT_EQ(folder.get("real/notes") + folder.get("real/new"), "newmade");
+    for (const auto& [before, after] : {std::pair{0600u, 0600u}, {0664u, 0664u}, {0444u, 0644u}, {0u, 0200u}}) {
+        fs::permissions(at("real/notes"), fs::perms(before));
+        WriteWholeFile(at("real/notes"), "again");
+        EXPECT_EQ(fs::status(at("real/notes")).permissions(), fs::perms(after)) << before;
+    }
+    ASSERT_EQ(mkfifo(at("pipe").c_str(), 0600), 0);
+    EXPECT_EQ(ErrorOf([&] { ReadWholeFile(at("pipe")); }), PathFileAccess);
+    EXPECT_NE(ErrorOf([&] { AppendToFile(at("pipe"), "x"); }), 0);
+}
+#endif
+
+TEST_F(Files, LeftoversOfKilledSavesAreRemovedWhenOld) {
+    folder.put("~save-1.tmp", "half a f");
+    folder.put("~save-2.tmp", "half a file");
+    folder.put("save-3.tmp", "somebody's own");
+    const auto age = [this](std::string_view name, int minutes) {
+        fs::last_write_time(at(name), fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
+    };
+    age("~save-1.tmp", 50);
+    age("~save-2.tmp", 70);
+    age("save-3.tmp", 700);
+    WriteWholeFile(at("a.dat"), "a");
+    EXPECT_TRUE(folder.has("~save-1.tmp") && folder.has("save-3.tmp"));
+    EXPECT_FALSE(folder.has("~save-2.tmp"));
+}
+
+#ifdef __linux__
+TEST_F(Files, StayWholeWhenTheDiskIsFull) {
+    const std::string old(5000, 'o');
+    const std::string longer(100000, 'n');
+    folder.put("a.dat", old);
+    folder.put("log", old);
+    for (std::uint64_t size = 0; size < longer.size(); size += 1237) {
+        const FileSizeLimit limit(size);
+        EXPECT_EQ(ErrorOf([&] { WriteWholeFile(at("a.dat"), longer); }), DiskFull) << size;
+        EXPECT_EQ(ErrorOf([&] { AppendToFile(at("log"), longer); }), DiskFull) << size;
+    }
+    EXPECT_TRUE(folder.get("a.dat") == old && folder.get("log") == old);
+    EXPECT_EQ(entries(), 2u);
+
+    const MemoryDisk disk(folder.path(), "size=64k");
+    if (!disk.mounted()) GTEST_SKIP() << "a small disk can be mounted by root only";
+    WriteWholeFile(at("a.dat"), old);
+    int refused = 0;
+    for (std::size_t size = 1000; size <= longer.size(); size += 1000) {
+        const std::string before = folder.get("a.dat");
+        const std::string bytes(size, static_cast<char>('a' + size / 1000 % 26));
+        const int error = ErrorOf([&] { WriteWholeFile(at("a.dat"), bytes); });
+        refused += error == DiskFull;
+        EXPECT_TRUE(folder.get("a.dat") == (error == 0 ? bytes : before)) << size;
+    }
+    EXPECT_GT(refused, 40);
+    EXPECT_EQ(entries(), 1u);
+}
+
+TEST_F(Files, OfAReadOnlyDiskAreRefusedAndStay) {
+    MemoryDisk disk(folder.path(), "size=64k");
+    if (!disk.mounted()) GTEST_SKIP() << "a read-only disk can be mounted by root only";
+    folder.put("a.dat", "old");
+    ASSERT_TRUE(disk.makeReadOnly());
+    EXPECT_EQ(ErrorOf([&] { WriteWholeFile(at("a.dat"), "new"); }), PathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { AppendToFile(at("a.dat"), "new"); }), PathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { DeleteFile(at("a.dat")); }), PathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { MakeFolder(at("2009")); }), PathFileAccess);
+    EXPECT_EQ(ErrorOf([&] { SaveDataFile(at("a.dat"), "new"); }), PathFileAccess) << "was not read: no copy, no save";
+    EXPECT_EQ(folder.get("a.dat"), "old");
+}
+#endif
+
+TEST_F(Files, AreFoundIgnoringCase) {
+    folder.put("ALERTS.dat", "x");
+    folder.put("\xC3\x84rger.fut", "x");  // in UTF-8, as the disk has it
+    MakeFolder(at("backup"));
+    EXPECT_EQ(DataPath("Alerts.dat"), at("ALERTS.dat"));
+    EXPECT_EQ(DataPath("None.dat"), at("None.dat"));
+    EXPECT_EQ(PathInFolder(folder.path(), "\xE4RGER.fut").filename(), fs::path(u8"Ärger.fut"));
+    EXPECT_TRUE(FileExists(folder.path(), "alerts.DAT"));
+    EXPECT_FALSE(FileExists(folder.path(), "backup"));
+    EXPECT_FALSE(FileExists(at("none"), "alerts.dat"));
+    EXPECT_TRUE(FolderExists(folder.path(), "Backup"));
+    EXPECT_FALSE(FolderExists(folder.path(), "Alerts.dat"));
+    ScriptedDialogs boxes;
+    boxes.expect(
+        "Error encountered during Events Folder check.\r\nError Number: 76\r\nError Description: Path not found");
+    EXPECT_FALSE(FolderExists(at("none"), "2009"));
+}
+
+// -- The guard ----------------------------------------------------------------------------------------------------
+
+TEST_F(Guard, KeepsWhatWasNotReadToItsEnd) {
+    const std::string bytes = "one\r\nbad\r\nthree\r\n";
+    const auto readAll = [this] { ReadDataLines(at("a.dat"), [](std::string_view, int) {}); };
+    const auto fail = [this] {
+        ReadDataLines(at("a.dat"), [](std::string_view line, int number) {
+            if (line == "bad") throw Error(number + 100);
+        });
+    };
+    const struct {
+        const char* name;
+        std::function<void()> before;
+        bool kept;
+    } rows[] = {{"read", readAll, false},
+                {"never read", [] {}, true},
+                {"a bad line", [&] { EXPECT_EQ(ErrorOf(fail), 102); }, true},
+                {"read, then a bad line",
+                 [&] {
+                     readAll();
+                     EXPECT_EQ(ErrorOf(fail), 102);
+                 },
+                 true},
+                {"a line passed over",
+                 [&] {
+                     readAll();
+                     MarkNotFullyRead(at("a.dat"));
+                 },
+                 true},
+                {"read, then changed by somebody",
+                 [&] {
+                     readAll();
+                     folder.put("a.dat", "ONE\r\nbad\r\nthree\r\n");
+                 },
+                 true},
+                {"read, tables cleared",
+                 [&] {
+                     readAll();
+                     ClearAllState();
+                 },
+                 true},
+                {"deleted by somebody",
+                 [&] {
+                     readAll();
+                     fs::remove(at("a.dat"));
+                 },
+                 false},
+                {"what is to be saved already", [&] { folder.put("a.dat", "saved"); }, false},
+                {"empty", [&] { folder.put("a.dat", ""); }, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const TemporaryFolder fresh;
+        SetDataFolder(folder.path());
+        fs::remove_all(at("Backup"));
+        folder.put("a.dat", bytes);
+        row.before();
+        const std::string unread = folder.get("a.dat");
+        const std::string told = SaveDataFile(at("a.dat"), "saved");
+        EXPECT_EQ(folder.backups(), row.kept ? unread : "");
+        EXPECT_EQ(told, row.kept
+                            ? "The file \"a.dat\" as it was before is kept as \"a 2026-11-22 19-39-05.dat\" in the "
+                              "folder \"Backup\"."
+                            : "");
+        EXPECT_EQ(folder.get("a.dat"), "saved");
+        EXPECT_EQ(SaveDataFile(at("a.dat"), "again"), "");
+    }
+}
+
+TEST_F(Guard, NeverCopiesOverAnEarlierCopy) {
+    const std::string stamp = " 2026-11-22 19-39-05";
+    for (const char* bytes : {"1", "2", "3"}) {
+        folder.put("2009/Notes.dat", bytes);
+        EXPECT_NE(SaveDataFile(YearFolder(2009) / "Notes.dat", "saved"), "");
+    }
+    folder.put("2010/Notes.dat", "4");
+    EXPECT_NE(DeleteDataFile(YearFolder(2010) / "Notes.dat"), "");
+    EXPECT_FALSE(folder.has("2010/Notes.dat"));
+    EXPECT_EQ(folder.get("Backup/2009 Notes" + stamp + ".dat"), "1");
+    EXPECT_EQ(folder.get("Backup/2009 Notes" + stamp + " 2.dat"), "2");
+    EXPECT_EQ(folder.get("Backup/2009 Notes" + stamp + " 3.dat"), "3");
+    EXPECT_EQ(folder.get("Backup/2010 Notes" + stamp + ".dat"), "4");
+}
+
+TEST_F(Guard, RefusesTheSaveWhenTheCopyFails) {
+    folder.put("a.dat", "unread");
+    folder.put("Backup", "a file where the folder should be");
+    for (const auto& change : {+[](const Path& path) { return SaveDataFile(path, "new"); },
+                               +[](const Path& path) { return DeleteDataFile(path); },
+                               +[](const Path& path) { return RenameDataFile(path.parent_path() / "Backup", path); }}) {
+        try {
+            change(at("a.dat"));
+            ADD_FAILURE() << "was not refused";
+        } catch (const Error& error) {
+            EXPECT_EQ(error.number(), PathFileAccess);
+            EXPECT_NE(std::string(error.what()).find("\"a.dat\" could not be copied to \"Backup\""), std::string::npos);
+        }
+        EXPECT_EQ(folder.get("a.dat"), "unread");
+    }
+}
+
+TEST_F(Guard, TellsOfTheCopyAlsoWhenTheSaveFails) {
+    folder.put("a.dat", "unread");
+    const auto write = Disk().write;
+    SetDisk({{}, [write](const Path& path, std::string_view bytes) {
+                 if (path.filename() == "a.dat") throw Error(DiskFull);
+                 write(path, bytes);
+             }});
+    try {
+        SaveDataFile(at("a.dat"), "new");
+        ADD_FAILURE() << "did not fail";
+    } catch (const Error& error) {
+        EXPECT_EQ(error.number(), DiskFull);
+        EXPECT_NE(std::string(error.what()).find("Disk full\r\nThe file \"a.dat\" as it was"), std::string::npos);
+    }
+    SetDisk({});
+    EXPECT_EQ(SaveDataFile(at("a.dat"), "new"), "") << "the copy is there already";
+    EXPECT_EQ(folder.backups(), "unread");
+}
+
+TEST_F(Guard, FollowsAFileToItsNewName) {
+    folder.put("b.dat", "unread");
+    SaveDataFile(at("a.dat"), "mine");
+    EXPECT_NE(RenameDataFile(at("a.dat"), at("b.dat")), "");
+    EXPECT_EQ(SaveDataFile(at("b.dat"), "mine again"), "");
+    EXPECT_EQ(RenameDataFile(at("b.dat"), at("b.dat")), "");
+    EXPECT_EQ(SaveDataFile(at("b.dat"), "and again"), "");
+    EXPECT_EQ(folder.backups(), "unread");
+}
