@@ -3,13 +3,12 @@
 
 #include <gtest/gtest.h>
 
-#include "base/state.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
 
 namespace {
 class CalendarTest : public testing::Test {
   protected:
-    CalendarTest() { ClearAllState(); }
     ~CalendarTest() override { RedrawForDate = {}; }
     /// Makes the date's year the first slot's, with both slots' holders assigned.
     static void show(Date date) {
@@ -23,6 +22,7 @@ class CalendarTest : public testing::Test {
         const auto& found = DateHolders(month, column, row);
         return found.empty() ? "" : std::string(found.view());
     }
+    TemporaryFolder folder;
 };
 }  // namespace
 
@@ -88,7 +88,6 @@ TEST_F(CalendarTest, SlotOfLoadsAYearThatNeitherSlotHolds) {
 TEST_F(CalendarTest, AYearWithoutANextOneIsReported) {
     ScriptedDialogs boxes;
     boxes.expect("An error occurred in AssignNextYearsDateholders.");
-    boxes.expect("Error.log");
     show(MakeDate(9999, 12, 31));
     EXPECT_EQ(holder(11, 5, 4), "12/31/99");
 }
