@@ -2,7 +2,6 @@
 #include "marks/modMarkerDisplay.h"
 
 #include "calendar/modCalendar.h"
-#include "calendar/modViews.h"
 #include "marks/modCategories.h"
 #include "marks/modMarks.h"
 #include "reminders/modBirthdays.h"
@@ -20,7 +19,7 @@ void ShowAll(bool shown) {
     MarkerHidden.fill(!shown);
     TodayShown = shown;
     ShowCategories();
-    RedrawCalendar();
+    if (RedrawForDate) RedrawForDate();
 }
 }  // namespace
 
@@ -32,7 +31,7 @@ void ShowCategory(int category, bool shown) {
     if (SpansNextYear) RepaintDays(NextYear);
     if (category == BirthdayCategory || category == HolidayCategory || category == TodaysDateCategory) {
         TodayShown = shown;
-        RedrawCalendar();
+        if (RedrawForDate) RedrawForDate();
     }
 }
 

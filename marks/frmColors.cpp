@@ -1,0 +1,269 @@
+// The window of the marker categories' captions and colours.
+#include "marks/frmColors.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include "base/dialogs.h"
+#include "calendar/modCalendar.h"
+#include "forms/qt/canvas.h"
+#include "forms/qt/text.h"
+
+namespace {
+constexpr int LabelRows = 7;
+constexpr int PaletteColumns = 4;
+constexpr int PatchPadding = 8;  // logical pixels, like all below
+constexpr int Border = 3;
+
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+Color TextColorOn(Color color) { return LabelTextColor(color).value_or(color == 0 ? White : Black); }
+}  // namespace
+
+// -- Patches ---------------------------------------------------------------------------------------------------------
+
+ColorPatch::ColorPatch(QWidget* parent) : QAbstractButton(parent) {
+    setFocusPolicy(Qt::StrongFocus);
+    setCursor(Qt::PointingHandCursor);
+    setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+}
+
+void ColorPatch::setColors(Color back, Color text) {
+    back_ = back;
+    text_ = text;
+    update();
+}
+
+void ColorPatch::setBorder(bool border) {
+    border_ = border;
+    update();
+}
+
+QSize ColorPatch::sizeHint() const {
+    const QFontMetrics metrics(font());
+    return {metrics.averageCharWidth() * (text().isEmpty() ? 5 : 24) + 2 * PatchPadding,
+            metrics.height() + 2 * PatchPadding};
+}
+
+void ColorPatch::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // The border stands off the colour, so that it is seen whatever the two colours are.
+    const QRectF outside = QRectF(rect()).adjusted(0.75, 0.75, -0.75, -0.75);
+    if (border_ || hasFocus() || isDown()) {
+        const QColor color = palette().color(border_ ? QPalette::WindowText : QPalette::Highlight);
+        painter.setPen(QPen(color, 1.5, hasFocus() && !border_ ? Qt::DotLine : Qt::SolidLine));
+        painter.drawRoundedRect(outside, 4, 4);
+    }
+    const QRectF inside = QRectF(rect()).adjusted(Border, Border, -Border, -Border);
+    painter.setPen(QPen(palette().color(QPalette::Mid), 1));
+    painter.setBrush(FromColor(back_));
+    painter.drawRoundedRect(inside.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+    painter.setPen(FromColor(text_));
+    const QRect place = inside.toRect().adjusted(PatchPadding, 0, -PatchPadding, 0);
+    painter.drawText(place, Qt::AlignVCenter | Qt::AlignLeft,
+                     fontMetrics().elidedText(text(), Qt::ElideRight, place.width()));
+    if (!underMouse() || isDown()) return;
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 1));
+    painter.drawRoundedRect(inside.adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
+}
+
+// -- The window ------------------------------------------------------------------------------------------------------
+
+frmColors::frmColors() : Window("frmColors", QStringLiteral("Available Marker Colors")) {
+    makeControls();
+    layOut();
+    OpenMarkerLabels();
+    showLabels();
+    ShowCategoriesInLabels = [this] { showLabels(); };
+}
+
+void frmColors::makeControls() {
+    lblMain = Named(new QLabel(QStringLiteral("Click on a category to select, then click on a color.")),
+                    QStringLiteral("lblMain"));
+    for (int k = 0; k < CategoryCount; ++k) {
+        ColorPatch* label = lblMarker[At(k)] = Named(new ColorPatch, ElementName("lblMarker", k));
+        QFont bold = label->font();
+        bold.setBold(true);
+        label->setFont(bold);
+        label->setToolTip(QStringLiteral("Click to Select"));
+        label->setText(QStringLiteral(" "));
+        label->installEventFilter(this);
+        connect(label, &ColorPatch::clicked, this, [this, k] { lblMarker_Click(k); });
+    }
+    for (int i = 0; i < static_cast<int>(cmdColor.size()); ++i) {
+        const QString name = QString::fromLatin1(PaletteName(i));
+        ColorPatch* button = cmdColor[At(i)] = Named(new ColorPatch, ElementName("cmdColor", i), name);
+        button->setColors(MarkerPalette[At(i)], Black);
+        button->setToolTip(name);
+        connect(button, &ColorPatch::clicked, this, [this, i] { cmdColor_Click(i); });
+    }
+    lblCaption = Named(new QLabel(QStringLiteral("Category C&aption =")), QStringLiteral("lblCaption"));
+    txtEdit = Named(new QLineEdit, QStringLiteral("txtEdit"), QStringLiteral("Category Caption"));
+    txtEdit->setEnabled(false);
+    lblCaption->setBuddy(txtEdit);
+    connect(txtEdit, &QLineEdit::textChanged, this, [this] { txtEdit_Change(); });
+    cmdSave = Named(new QPushButton(QStringLiteral("&Save Changes and Exit")), QStringLiteral("cmdSave"));
+    cmdExit = Named(new QPushButton(QStringLiteral("E&xit Without Saving")), QStringLiteral("cmdExit"));
+    cmdSave->setAutoDefault(true);
+    cmdExit->setAutoDefault(true);
+    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
+    new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
+}
+
+QLayout* frmColors::categoriesLayout() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(4);
+    for (int k = 0; k < CategoryCount; ++k) grid->addWidget(lblMarker[At(k)], k % LabelRows, k / LabelRows);
+    return grid;
+}
+
+QLayout* frmColors::paletteLayout() {
+    auto* grid = new QGridLayout;
+    grid->setSpacing(4);
+    for (int i = 0; i < static_cast<int>(cmdColor.size()); ++i)
+        grid->addWidget(cmdColor[At(i)], i / PaletteColumns, i % PaletteColumns);
+    grid->setRowStretch(grid->rowCount(), 1);
+    return grid;
+}
+
+void frmColors::layOut() {
+    auto* bar = Named(new QMenuBar, QStringLiteral("MenuBar"), QStringLiteral("Menus"));
+    menus_.build(bar, {{QStringLiteral("mnuEdit"), QStringLiteral("&Edit"), {}},
+                       {QStringLiteral("mnuEditCaption"), QStringLiteral("Change Category &Caption"),
+                        QStringLiteral("mnuEdit"), [this] { mnuEditCaption_Click(); }, false, Qt::Key_F2}});
+    auto* columns = new QHBoxLayout;
+    columns->setSpacing(20);
+    columns->addLayout(categoriesLayout(), 3);
+    columns->addLayout(paletteLayout(), 2);
+    auto* caption = new QHBoxLayout;
+    caption->addWidget(lblCaption);
+    caption->addWidget(txtEdit, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch();
+    buttons->addWidget(cmdSave);
+    buttons->addWidget(cmdExit);
+    auto* all = new QVBoxLayout(this);
+    all->setMenuBar(bar);
+    all->setSpacing(12);
+    all->addWidget(lblMain);
+    all->addLayout(columns);
+    all->addLayout(caption);
+    all->addLayout(buttons);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void frmColors::showLabels() {
+    for (std::size_t k = 0; k < CategoryCount; ++k) {
+        // A label that has been edited keeps what was edited for as long as the file says nothing new about it.
+        if (shown_[k] == MarkerLabels[k]) continue;
+        shown_[k] = MarkerLabels[k];
+        lblMarker[k]->setText(FromText(shown_[k].caption));
+        lblMarker[k]->setAccessibleName(lblMarker[k]->text());
+        lblMarker[k]->setColors(shown_[k].color, TextColorOn(shown_[k].color));
+    }
+}
+
+void frmColors::selectLabel(int index) {
+    current_ = index;
+    for (int k = 0; k < CategoryCount; ++k) lblMarker[At(k)]->setBorder(k == index);
+    const QSignalBlocker quiet(txtEdit);
+    txtEdit->setText(lblMarker[At(index)]->text());
+    txtEdit->setReadOnly(index == QuickMarksCategory);
+    txtEdit->setEnabled(!IsFixedCaption(ToText(txtEdit->text())));
+    txtEdit->selectAll();
+}
+
+bool frmColors::isEdited() const {
+    for (std::size_t k = 0; k < CategoryCount; ++k) {
+        if (lblMarker[k]->text() != FromText(shown_[k].caption) || lblMarker[k]->backColor() != shown_[k].color)
+            return true;
+    }
+    return false;
+}
+
+/// The arrow keys walk over the labels and select without leaving them for the caption box.
+void frmColors::moveSelection(int from, int key) {
+    const int step = key == Qt::Key_Up      ? -1
+                     : key == Qt::Key_Down  ? 1
+                     : key == Qt::Key_Left  ? -LabelRows
+                     : key == Qt::Key_Right ? LabelRows
+                                            : 0;
+    const int to = from + step;
+    if (step == 0 || to < 0 || to >= CategoryCount) return;
+    lblMarker[At(to)]->setFocus(Qt::OtherFocusReason);
+    selectLabel(to);
+}
+
+bool frmColors::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return false;
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Left && key != Qt::Key_Right) return false;
+    for (int k = 0; k < CategoryCount; ++k) {
+        if (lblMarker[At(k)] != watched) continue;
+        moveSelection(k, key);
+        return true;
+    }
+    return false;
+}
+
+void frmColors::lblMarker_Click(int index) {
+    selectLabel(index);
+    txtEdit->setFocus();
+}
+
+void frmColors::txtEdit_Change() {
+    if (current_ < 0) return;
+    txtEdit->setEnabled(!IsFixedCaption(ToText(txtEdit->text())));
+    lblMarker[At(current_)]->setText(txtEdit->text());
+    lblMarker[At(current_)]->setAccessibleName(txtEdit->text());
+}
+
+void frmColors::cmdColor_Click(int index) {
+    if (current_ < 0) return;
+    const Color color = MarkerPalette[At(index)];
+    lblMarker[At(current_)]->setColors(color, TextColorOn(color));
+}
+
+void frmColors::cmdSave_Click() {
+    ByCategory<MarkerLabel> edited;
+    for (int k = 0; k < CategoryCount; ++k) {
+        const ColorPatch* label = lblMarker[At(k)];
+        const auto caption = TextToSave(label->text());
+        if (!caption) {
+            lblMarker_Click(k);
+            return;
+        }
+        edited[At(k)] = {*caption, label->backColor(), TextColorOn(label->backColor())};
+    }
+    if (!SaveEditedLabels(edited)) return;
+    leaving_ = true;
+    if (RedrawForDate) RedrawForDate();
+    close();
+}
+
+void frmColors::cmdExit_Click() {
+    leaving_ = true;
+    close();
+}
+
+void frmColors::mnuEditCaption_Click() { lblMarker_Click(std::max(current_, 0)); }
+
+bool frmColors::queryUnload() {
+    if (leaving_ || !isEdited()) return true;
+    const Answer answer = Ask("Do you want to save the changes to the captions and colors?", Buttons::YesNoCancel,
+                              "Available Marker Colors");
+    if (answer == Answer::Yes) cmdSave_Click();  // closes the window itself once all is saved
+    return answer == Answer::No;
+}
+
+void frmColors::unload() {
+    ShowCategoriesInLabels = {};
+    CloseMarkerLabels();
+}
