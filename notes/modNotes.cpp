@@ -6,6 +6,7 @@
 
 #include "base/dialogs.h"
 #include "base/files.h"
+#include "base/lineBreaks.h"
 #include "base/modNoCase.h"
 #include "base/state.h"
 #include "base/text.h"
@@ -68,15 +69,6 @@ void ReadAndTell(const char* procedure, Year slot) {
 }
 
 // -- Saving ---------------------------------------------------------------------------------------------------------
-
-/// A note that holds one of the two characters which stand for line breaks in the file cannot come back as it was.
-bool MayTurnIntoLineBreaks(std::string_view text) {
-    if (text.find_first_of("\xD2\xD5") == std::string_view::npos) return true;
-    return Ask(std::string(
-                   "This note holds the characters \xD2 or \xD5. In the notes file they stand for line breaks, and ") +
-                   "will have turned into line breaks when the note is opened again." + CrLf + "Save it all the same?",
-               Buttons::YesNo) == Answer::Yes;
-}
 
 /// Puts the text in place of whatever the tables hold for the open date: one note, or a new one.
 void StoreText(Year slot, const std::string& text) {
@@ -150,7 +142,7 @@ bool Save(Year slot) {
     }
     if (YearOf(Notes.openDate) != YearOfSlot(slot)) throw Error(InvalidCall);
     const auto text = NoteEditor.textToSave ? NoteEditor.textToSave() : std::string();
-    if (!text || !MayTurnIntoLineBreaks(*text)) return false;
+    if (!text || !MayTurnIntoLineBreaks(*text, "note")) return false;
     StoreText(slot, *text);
     WriteNotes(Notes.years[slot]);
     NoteOriginalText = *text;

@@ -59,6 +59,7 @@ bool ParseAlertLine(std::string_view line, AlertRec& alert) {
         alert.period = SmallIntegerValue(Middle(line, 7, 4));
         alert.date = date;
     } catch (const Error&) {
+        alert.message = line;
         return false;
     }
     return true;

@@ -74,7 +74,7 @@ struct AlertRec {
     std::string message;  // with its line breaks
 };
 
-/// Reads one line; false where a field is no number. `alert` is filled as far as it goes.
+/// Reads one line; false where a field is no number: the message is then the whole line, so that it can be seen.
 bool ParseAlertLine(std::string_view line, AlertRec& alert);
 /// The line of an alert whose date has a five-digit day number.
 std::string AlertLineOf(const AlertRec& alert);

@@ -1,0 +1,160 @@
+// The alert manager's lists and edits. Today is November 22, 2026: day 46348.
+#include "reminders/modAlertManager.h"
+
+#include <gtest/gtest.h>
+
+#include "calendar/modCalendar.h"
+#include "reminders/modAlerts.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+constexpr const char* Three = "46340:0003:Expired\r\n46348:0000:Today\r\n46400:0100:Later\r\n";
+
+class AlertManager : public testing::Test {
+  protected:
+    AlertManager() { SelectDate(MakeDate(2026, 11, 22)); }
+    void open(std::string_view bytes) {
+        folder_.put("Alerts.dat", bytes);
+        ReadAlerts();
+        OpenAlertList();
+    }
+    AlertField save(const char* date, const char* period, const char* message) {
+        return SaveAlert({date, period, message});
+    }
+    TemporaryFolder folder_;
+    ScriptedDialogs dialogs_;
+};
+
+TEST_F(AlertManager, OpensOnTheFirstAlertOrOnANewOne) {
+    open(Three);
+    EXPECT_EQ(AlertList.heading, "Editing Existing Alert");
+    EXPECT_EQ(AlertList.caption, "Active Alert List: 3 Alerts");
+    EXPECT_EQ(AlertList.edit.date + AlertList.edit.period + AlertList.edit.message, "11/14/263Expired");
+    CloseAlertList();
+    AlertPresetDate = MakeDate(2035, 12, 24);
+    AddingNewAlert = true;
+    OpenAlertList();
+    EXPECT_EQ(AlertList.heading, "Adding New Alert");
+    EXPECT_EQ(AlertList.edit.date, "12/24/35");
+    EXPECT_EQ(AlertDateTyped("12/24/35"), MakeDate(2035, 12, 24)) << "the shown date keeps its century";
+    CloseAlertList();
+    EXPECT_FALSE(AddingNewAlert);
+    open("");
+    EXPECT_EQ(AlertList.heading, "Adding New Alert");
+    EXPECT_EQ(AlertList.caption, "Active Alert List (Empty)");
+    EXPECT_EQ(AlertList.edit.date + " " + AlertList.edit.period, "11/22/26 7");
+}
+
+TEST_F(AlertManager, SavesOverTheOldOneOrBesideIt) {
+    open(Three);
+    dialogs_.expect("Do you want to over-write this alert?", Answer::Cancel);
+    EXPECT_EQ(save("12/1/2026", "7", "X"), AlertField::Abandoned);
+    dialogs_.expect("Do you want to over-write this alert?", Answer::Yes);
+    dialogs_.expect("Alert List Updated.");
+    EXPECT_EQ(save("12/1/2026", "7", "X"), AlertField::Saved);
+    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:Today\r\n46357:0007:X\r\n46400:0100:Later\r\n");
+    SelectAlert(2);
+    dialogs_.expect("Do you want to over-write this alert?", Answer::No);
+    dialogs_.expect("Alert List Updated.");
+    EXPECT_EQ(save("12/1/2026", "10", "one\r\ntwo"), AlertField::Saved);
+    EXPECT_EQ(folder_.get("Alerts.dat"),
+              "46348:0000:Today\r\n46357:0007:X\r\n46357:0010:one\xD5\xD2two\r\n46400:0100:Later\r\n");
+    EXPECT_FALSE(AddingNewAlert);
+}
+
+TEST_F(AlertManager, ActsOnTheRightAlertInThePendingView) {
+    open("46400:0100:Later\r\n46348:0000:Today\r\n46340:0003:Expired\r\n");  // not in order
+    ViewAlerts(true, {});
+    EXPECT_EQ(AlertList.messages, (std::vector<std::string>{"Today", "Later"}));
+    EXPECT_EQ(AlertList.caption, "Active Alert List: 2 Alerts");
+    SelectAlert(1);
+    dialogs_.expect("over-write", Answer::Yes);
+    dialogs_.expect("Alert List Updated.");
+    EXPECT_EQ(save("1/13/2027", "100", "Changed"), AlertField::Saved);
+    SelectAlert(0);
+    dialogs_.expect("Alert List Updated.");
+    DeleteAlert();
+    EXPECT_EQ(folder_.get("Alerts.dat"), "46340:0003:Expired\r\n46400:0100:Changed\r\n");
+}
+
+TEST_F(AlertManager, RefusesWhatCannotBeKept) {
+    open("");
+    struct Row {
+        const char* date;
+        const char* period;
+        const char* message;
+        AlertField field;
+    };
+    for (const Row& row :
+         {Row{"1/1/2027", "", "Please edit the value of the Alert Period", AlertField::Period},
+          Row{"1/1/2027", "1x", "Please edit the value of the Alert Period", AlertField::Period},
+          Row{"1/1/2027", "12345", "An alert cannot be set greater than 9999 days.", AlertField::Period},
+          Row{"soon", "1", "Date not recognized as entered.", AlertField::Date},
+          Row{"5/17/1927", "1", "May 18, 1927", AlertField::Date},
+          Row{"10/14/2173", "1", "October 13, 2173", AlertField::Date}}) {
+        dialogs_.expect(row.message);
+        EXPECT_EQ(save(row.date, row.period, "X"), row.field) << row.date;
+    }
+    dialogs_.expect("line breaks", Answer::No);
+    EXPECT_EQ(save("1/1/2027", "1", "\xD2"), AlertField::Message);
+    for (const char* edge : {"5/18/1927", "10/13/2173"}) {
+        NewAlert();
+        dialogs_.expect("Alert List Updated.");
+        EXPECT_EQ(save(edge, "9999", "X"), AlertField::Saved);
+    }
+    EXPECT_EQ(folder_.get("Alerts.dat"), "10000:9999:X\r\n99999:9999:X\r\n");
+}
+
+TEST_F(AlertManager, DeletesTheFirstBeforeAClickAndExpiredOnesWithACopy) {
+    open(Three);
+    NewAlert();
+    dialogs_.expect("Alert List Updated.");
+    DeleteAlert();
+    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:Today\r\n46400:0100:Later\r\n");
+    EXPECT_EQ(folder_.backups(), "");
+    const std::string withBad = std::string(Three) + "46000:zz:Bad line stays\r\n";
+    dialogs_.expect("line 4");
+    open(withBad);
+    dialogs_.expect("Backup");
+    dialogs_.expect("line 1");
+    DeleteExpiredAlerts();
+    EXPECT_EQ(folder_.get("Alerts.dat"), "46000:zz:Bad line stays\r\n46348:0000:Today\r\n46400:0100:Later\r\n");
+    EXPECT_EQ(folder_.backups(), withBad);
+}
+
+TEST_F(AlertManager, FindsTheNextMessageAroundTheEnd) {
+    open("46340:0003:Water\r\n46348:0000:Today\r\n46400:0100:buy WATER\r\n");
+    dialogs_.expectInput("Find", "water");
+    EXPECT_EQ(FindAlert(), 2);
+    SelectAlert(2);
+    dialogs_.expectInput("Find", "water");
+    EXPECT_EQ(FindAlert(), 0);
+    EXPECT_EQ(dialogs_.shown().back().preset, "water");
+    dialogs_.expectInput("Find", "fire");
+    dialogs_.expect("\"fire\"");
+    EXPECT_EQ(FindAlert(), std::nullopt);
+    dialogs_.expectInput("Find", std::nullopt);
+    EXPECT_EQ(FindAlert(), std::nullopt);
+}
+
+TEST_F(AlertManager, SwitchingTheViewKeepsANewAlertBeingTyped) {
+    open("46340:0003:Expired\r\n");
+    ViewAlerts(true, {"12/01/26", "3", "typed"});
+    EXPECT_EQ(AlertList.edit.message, "typed");
+    EXPECT_EQ(AlertList.caption, "Active Alert List: 0 Alerts");
+    EXPECT_EQ(AlertList.heading, "Adding New Alert");
+}
+
+TEST_F(AlertManager, AFailedSaveKeepsWhatWasTypedAndItsPlace) {
+    open(Three);
+    SelectAlert(1);
+    std::filesystem::remove(folder_.path() / "Alerts.dat");
+    std::filesystem::create_directories(folder_.path() / "Alerts.dat/in the way");
+    dialogs_.expect("over-write", Answer::Yes);
+    dialogs_.expect("SaveAlerts");
+    EXPECT_EQ(save("12/1/2026", "7", "typed"), AlertField::Abandoned);
+    EXPECT_EQ(AlertList.edit.message, "typed");
+    EXPECT_EQ(AlertList.selected, 1);
+}
+}  // namespace

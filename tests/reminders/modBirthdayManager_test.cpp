@@ -1,0 +1,198 @@
+// The birthday manager's lists, ages, edits and printing. Today is November 22, 2026.
+#include "reminders/modBirthdayManager.h"
+
+#include <gtest/gtest.h>
+
+#include "forms/printer.h"
+#include "forms/recorder.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+class BirthdayManager : public testing::Test {
+  protected:
+    void open(std::string_view bytes) {
+        folder_.put("Birthdays.dat", bytes);
+        ReadBirthdays();
+        OpenBirthdayList();
+        QuietBirthdaySave = false;
+    }
+    std::string file() const { return folder_.get("Birthdays.dat"); }
+    TemporaryFolder folder_;
+    ScriptedDialogs dialogs_;
+};
+
+TEST_F(BirthdayManager, PutsTheSurnameFirst) {
+    for (const auto& [name, key] :
+         std::vector<std::pair<std::string, std::string>>{{"First Last Jr.", "Last, First Jr."},
+                                                          {"First Last, Jr.", "Last, First, Jr."},
+                                                          {"Anna", "Anna"},
+                                                          {" Mary Ann  Smith ", "Smith, Mary Ann"},
+                                                          {"Ian Ivory", "Ivory, Ian"},
+                                                          {"Karl Keller III", "Keller, Karl III"},
+                                                          {"Bo Srbic SR", "Srbic, Bo SR"},
+                                                          {"Bo Lee Jr. II", "Lee, Bo Jr. II"},
+                                                          {"Madonna Jr", "Madonna Jr"},
+                                                          {"", ""}})
+        EXPECT_EQ(BirthdayNameKey(name), key);
+}
+
+TEST_F(BirthdayManager, CountsTheBirthdaysPassed) {
+    struct Row {
+        const char* today;
+        const char* monthDay;
+        const char* born;
+        const char* age;
+    };
+    for (const Row& row : {Row{"2/28/2009", "02/28", "1931", "78"}, Row{"2/27/2009", "02/28", "1931", "77"},
+                           Row{"11/22/2026", "11/22", "1904", "122"}, Row{"2/28/2027", "02/29", "2000", "27"},
+                           Row{"2/28/2028", "02/29", "2000", "27"}, Row{"11/22/2026", "12/01", "2026", "0"},
+                           Row{"11/22/2026", "11/22", "****", "NA"}, Row{"11/22/2026", "11/22", "19a1", "NA"},
+                           Row{"11/22/2026", "13/45", "1990", "NA"}}) {
+        const YearMonthDay day = PartsOf(DateOfText(row.today));
+        FixClock(day.year, day.month, day.day);
+        EXPECT_EQ(CalculateAge({row.monthDay, "0", "Ann", row.born}), std::string("Age = ") + row.age);
+    }
+}
+
+TEST_F(BirthdayManager, ListsByMonthAndByName) {
+    open("12/01:-1:Zoe Adler:****\r\n01/02:00:Ben Z\xFCrn:1990\r\n11/23:03:Ana Brown:1980\r\n");
+    EXPECT_EQ(BirthdayListTitle(), "Birthday Management - Viewing Pending");
+    EXPECT_EQ(BirthdayList.byMonth, std::vector<std::string>{"11/23/1980\tAna Brown\t\t\t\xE0\x32"});
+    ViewBirthdays(false);
+    EXPECT_EQ(BirthdayListTitle(), "Birthday Management - Viewing All");
+    EXPECT_EQ(BirthdayList.byMonth[0], "01/02/1990\tBen Z\xFCrn\t\t\t\xE0\x31");
+    EXPECT_EQ(BirthdayList.byName,
+              (std::vector<std::string>{"Adler, Zoe - 12/01\t\t\t\xE0\x30", "Brown, Ana - 11/23/1980\t\t\t\xE0\x32",
+                                        "Z\xFCrn, Ben - 01/02/1990\t\t\t\xE0\x31"}));
+}
+
+TEST_F(BirthdayManager, SavesNewAndEditedOnes) {
+    open("07/04:07:Grandpa:1931\r\n");
+    dialogs_.expect("Birthdays Updated.");
+    EXPECT_EQ(SaveBirthday({" Ann ", "1/2/1990", false, 1}), BirthdayField::Saved);
+    dialogs_.expect("Birthdays Updated.");
+    EXPECT_EQ(SaveBirthday({"Ann", "1/2/1990", false, 1}), BirthdayField::Saved) << "twice the same adds it once";
+    EXPECT_EQ(file(), "01/02:00:Ann:****\r\n07/04:07:Grandpa:1931\r\n");
+    BirthdayEdit shown = SelectBirthday(1);
+    EXPECT_EQ(shown.date, "07/04/1931");
+    EXPECT_EQ(shown.age, "Age = 95");
+    EXPECT_EQ(shown.period, 5);
+    shown.name = "Granddad";
+    shown.period = 0;
+    for (const char* name : {"Granddad", "Grandpa Joe"}) {  // edited again without another click
+        shown.name = name;
+        dialogs_.expect("Birthdays Updated.");
+        EXPECT_EQ(SaveBirthday(shown), BirthdayField::Saved);
+    }
+    EXPECT_EQ(file(), "01/02:00:Ann:****\r\n07/04:-1:Grandpa Joe:1931\r\n");
+    EXPECT_EQ(folder_.backups(), "");
+}
+
+TEST_F(BirthdayManager, KeepsWhatALineHoldsBesidesItsFields) {
+    open("07/04:09:Ann:work@x:1931\r\n");
+    BirthdayEdit shown = SelectBirthday(0);
+    EXPECT_EQ(shown.period, std::nullopt);
+    dialogs_.expect("Backup");
+    EXPECT_EQ(SaveBirthday(shown), BirthdayField::Saved);
+    EXPECT_EQ(file(), "07/04:09:Ann:1931\r\n") << "a period without a button stays";
+    EXPECT_EQ(folder_.backups(), "07/04:09:Ann:work@x:1931\r\n");
+}
+
+TEST_F(BirthdayManager, RefusesWhatIsNoBirthday) {
+    open("07/04:07:Grandpa:1931\r\n");
+    for (const auto& [name, date, message, field] :
+         std::vector<std::tuple<const char*, const char*, const char*, BirthdayField>>{
+             {"  ", "1/2/1990", "Please enter a name in the box provided.", BirthdayField::Name},
+             {"Ann: B", "1/2/1990", "cannot hold \":\"", BirthdayField::Name},
+             {"Ann", "", "Please enter a date.", BirthdayField::Date},
+             {"Ann", "2/30/1990", "Please enter a date.", BirthdayField::Date},
+             {"Ann", "2/29/1960", "February 29 cannot be entered", BirthdayField::Date}}) {
+        dialogs_.expect(message);
+        EXPECT_EQ(SaveBirthday({name, date}), field) << message;
+    }
+    EXPECT_EQ(file(), "07/04:07:Grandpa:1931\r\n");
+}
+
+TEST_F(BirthdayManager, DeletesSeveralAfterAQuestionAndKeepsTheFile) {
+    const std::string before = "01/02:00:Ann:****\r\n01/02:00:Ann:****\r\n07/04:07:Grandpa:1931\r\n";
+    open(before);
+    dialogs_.expect("Nothing selected to delete.");
+    EXPECT_FALSE(DeleteBirthdays({}));
+    dialogs_.expect("Preparing to Delete Multiple Items", Answer::No);
+    EXPECT_FALSE(DeleteBirthdays({0, 2}));
+    dialogs_.expect("Are you sure you want to delete these multiple items?", Answer::Yes);
+    dialogs_.expect("Backup");
+    EXPECT_TRUE(DeleteBirthdays({0, 2}));
+    EXPECT_EQ(file(), "01/02:00:Ann:****\r\n");
+    EXPECT_EQ(folder_.backups(), before);
+    EXPECT_TRUE(DeleteBirthdays({0}));
+    EXPECT_EQ(file(), "(none)");
+    dialogs_.expect("Birthday List Saved. Changes will be reflected in your next calendar view.");
+    CloseBirthdayList();
+    CloseBirthdayList();
+}
+
+TEST_F(BirthdayManager, KnowsWhetherADateSaysItsYear) {
+    for (const char* with : {"7/4/31", "7-4-1931", "Jul 4, 1931", "1931-07-04", "4 July 1931"})
+        EXPECT_TRUE(NamesYear(with));
+    for (const char* without : {"7/4", "Jul 4", "07/04", ""}) EXPECT_FALSE(NamesYear(without));
+}
+
+/// A printer whose paper records what is printed.
+class Paper : public Canvas {
+  public:
+    explicit Paper(Recorder& recorder) : recorder_(recorder) {}
+    void setScale(double, double) override {}
+    double scaleWidth() const override { return 12240; }
+    double scaleHeight() const override { return 15840; }
+    void clear() override {}
+    void line(double, double, double, double, Color) override {}
+    void box(double, double, double, double, Color) override {}
+    void fillBox(double, double, double, double, Color) override {}
+    void text(double x, double y, std::string_view text, const Font& font, Color color) override {
+        recorder_.text(x, y, text, font, color);
+    }
+    double textWidth(std::string_view text, const Font& font) override { return recorder_.textWidth(text, font); }
+    double textHeight(const Font& font) override { return font.points * 20; }
+    void picture(double, double, double, double, const Path&) override {}
+    void newPage() override { recorder_.newPage(); }
+    void end() override { recorder_.end(); }
+
+  private:
+    Recorder& recorder_;
+};
+
+TEST_F(BirthdayManager, Prints42EntriesAPage) {
+    Recorder paper;
+    const PrinterCalls before = SetPrinter({[] { return std::vector<std::string>{"paper"}; },
+                                            {},
+                                            [] {},
+                                            [&](const std::string&) { return std::make_unique<Paper>(paper); }});
+    const std::vector<std::string> entries(43, "07/04/1931\tGrandpa\t\t\t\xE0\x30");
+    dialogs_.expect("Printer not found.");
+    PrintBirthdayList(entries);
+    CheckPrinter();
+    dialogs_.expect("Nothing from the list has been selected to print.");
+    PrintSelectedBirthdays({});
+    dialogs_.expect("Click OK to begin printing these 2 pages. Click Cancel to exit.", Answer::Cancel);
+    PrintBirthdayList(entries);
+    EXPECT_TRUE(paper.calls().empty());
+    dialogs_.expect("Beginning Print Process");
+    PrintBirthdayList(entries);
+    EXPECT_EQ(paper.containing("Grandpa").size(), 43U);
+    EXPECT_EQ(paper.containing("page").size(), 1U);
+    EXPECT_NE(paper.calls()[0].find("'07/04/1931' Times New Roman"), std::string::npos) << paper.calls()[0];
+    paper.clear();
+    dialogs_.expect("these 1 pages");
+    PrintSelectedBirthdays(std::vector<std::string>(42, "Brown, Ana - 11/23\t\t\t\xE0\x32"));
+    EXPECT_TRUE(paper.containing("page").empty());
+    EXPECT_EQ(paper.containing("'Brown, Ana - 11/23'").size(), 42U);
+    paper.clear();
+    PrintBirthdayRecord({"", "07/04"});
+    EXPECT_TRUE(paper.calls().empty());
+    PrintBirthdayRecord({"Ann", "07/04/1931", true, 5, "Age = 95"});
+    EXPECT_EQ(paper.containing("Age = 95").size(), 1U);
+    SetPrinter(before);
+}
+}  // namespace
