@@ -5,6 +5,8 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPointer>
+#include <QRegularExpression>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -22,6 +24,10 @@ constexpr int Border = 3;
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 Color TextColorOn(Color color) { return LabelTextColor(color).value_or(color == 0 ? White : Black); }
+/// The text as a box of one line shows it: pasted line breaks are blanks.
+QString OnOneLine(QString text) {
+    return text.replace(QRegularExpression(QStringLiteral("[\\r\\n]+")), QStringLiteral(" "));
+}
 }  // namespace
 
 // -- Patches ---------------------------------------------------------------------------------------------------------
@@ -80,7 +86,9 @@ frmColors::frmColors() : Window("frmColors", QStringLiteral("Available Marker Co
     layOut();
     OpenMarkerLabels();
     showLabels();
-    ShowCategoriesInLabels = [this] { showLabels(); };
+    ShowCategoriesInLabels = [window = QPointer(this)] {
+        if (window) window->showLabels();
+    };
 }
 
 void frmColors::makeControls() {
@@ -220,9 +228,10 @@ void frmColors::lblMarker_Click(int index) {
 
 void frmColors::txtEdit_Change() {
     if (current_ < 0) return;
-    txtEdit->setEnabled(!IsFixedCaption(ToText(txtEdit->text())));
-    lblMarker[At(current_)]->setText(txtEdit->text());
-    lblMarker[At(current_)]->setAccessibleName(txtEdit->text());
+    const QString caption = OnOneLine(txtEdit->text());
+    txtEdit->setEnabled(!IsFixedCaption(ToText(caption)));
+    lblMarker[At(current_)]->setText(caption);
+    lblMarker[At(current_)]->setAccessibleName(caption);
 }
 
 void frmColors::cmdColor_Click(int index) {

@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QGridLayout>
 #include <QPainter>
+#include <QPointer>
 #include <QShortcut>
 #include <QSignalBlocker>
 
@@ -36,7 +37,9 @@ frmMarkers::frmMarkers() : Window("frmMarkers", QStringLiteral("Marker Options")
     makeControls();
     layOut();
     showBoxes();
-    ShowCategoriesInBoxes = [this] { showBoxes(); };
+    ShowCategoriesInBoxes = [window = QPointer(this)] {
+        if (window) window->showBoxes();
+    };
 }
 
 void frmMarkers::makeControls() {

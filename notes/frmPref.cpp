@@ -17,7 +17,7 @@ frmPref::frmPref() : Window("frmPref", QStringLiteral("Frequent Used Terms Prefe
 }
 
 void frmPref::makeControls() {
-    lblAutoStartPos = {Named(new QLabel(QStringLiteral("Start Suggesting &Terms for Completion After")),
+    lblAutoStartPos = {Named(new QLabel(QStringLiteral("Start Suggesting Terms for Completion After")),
                              ElementName("lblAutoStartPos", 0)),
                        Named(new QLabel(QStringLiteral("Keystroke(s)")), ElementName("lblAutoStartPos", 1))};
     txtStartPos = Named(new QLineEdit, QStringLiteral("txtStartPos"), QStringLiteral("number of keystrokes"));
@@ -25,7 +25,6 @@ void frmPref::makeControls() {
     txtStartPos->setMaxLength(4);
     txtStartPos->setAlignment(Qt::AlignCenter);
     txtStartPos->installEventFilter(this);
-    lblAutoStartPos[0]->setBuddy(txtStartPos);
     connect(txtStartPos, &QLineEdit::textChanged, this, [this] { txtStartPos_Change(); });
     chkACEnable =
         Named(new QCheckBox(QStringLiteral("&Disable Automatic Term Completion")), QStringLiteral("chkACEnable"));

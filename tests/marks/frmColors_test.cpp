@@ -1,0 +1,139 @@
+// The window of captions and colours.
+#include "marks/frmColors.h"
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QClipboard>
+#include <QTest>
+
+#include "base/text.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct ColorsWindow : testing::Test {
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    std::string file;
+    frmColors* window = nullptr;
+
+    ColorsWindow() {
+        for (std::size_t k = 0; k < CategoryCount; ++k)
+            file += MarkerCaption[k] + ":" + std::to_string(MarkerPalette[k]) + (k == 3 ? "*" : "") + CrLf;
+        folder.put("Marker Colors.dat", file);
+        ReadMarkerColors();
+        window = ShowWindow<frmColors>();
+    }
+    ~ColorsWindow() override { UnloadAllWindows(); }
+    void click(int label) const {
+        QTest::mouseClick(window->lblMarker[static_cast<std::size_t>(label)], Qt::LeftButton);
+    }
+    void type(const QString& caption) const {
+        window->txtEdit->selectAll();
+        window->txtEdit->insert(caption);
+    }
+};
+}  // namespace
+
+TEST_F(ColorsWindow, ClickSelectsALabelForEditing) {
+    QTest::mouseClick(window->cmdColor[15], Qt::LeftButton);
+    click(9);
+    EXPECT_TRUE(window->lblMarker[9]->hasBorder());
+    EXPECT_EQ(window->txtEdit->selectedText(), QStringLiteral("Meeting"));
+    click(7);
+    EXPECT_FALSE(window->lblMarker[9]->hasBorder());
+    QTest::mouseClick(window->cmdColor[15], Qt::LeftButton);
+    type(QStringLiteral("F\u00EAte & more"));
+    EXPECT_EQ(window->lblMarker[7]->text(), QStringLiteral("F\u00EAte & more"));
+    dialogs.expect("Marker Colors Saved.");
+    window->cmdSave->click();
+    std::string wanted = file;
+    wanted.replace(wanted.find("Event:32768"), 11, "F\xEAte & more:8421504");
+    std::erase(wanted, '*');
+    EXPECT_EQ(folder.get("Marker Colors.dat"), wanted);
+    EXPECT_EQ(OpenedWindow<frmColors>(), nullptr);
+    EXPECT_FALSE(MarkersLoaded);
+}
+
+TEST_F(ColorsWindow, FixedCaptionsCannotBeEdited) {
+    struct Row {
+        int label;
+        bool enabled;
+        bool readOnly;
+    };
+    for (const Row& row : {Row{8, false, false}, Row{11, false, false}, Row{10, true, true}, Row{4, true, false}}) {
+        click(row.label);
+        EXPECT_EQ(window->txtEdit->isEnabled(), row.enabled) << row.label;
+        EXPECT_EQ(window->txtEdit->isReadOnly(), row.readOnly) << row.label;
+    }
+    type(QStringLiteral("Holiday"));
+    EXPECT_FALSE(window->txtEdit->isEnabled());
+    click(5);
+    EXPECT_TRUE(window->txtEdit->isEnabled());
+}
+
+TEST_F(ColorsWindow, ArrowKeysWalkOverTheLabels) {
+    window->lblMarker[0]->setFocus();
+    for (const auto& [key, label] :
+         {std::pair{Qt::Key_Up, 0}, {Qt::Key_Down, 1}, {Qt::Key_Right, 8}, {Qt::Key_Right, 8}, {Qt::Key_Left, 1}}) {
+        QTest::keyClick(window->focusWidget(), key);
+        EXPECT_EQ(window->focusWidget(), window->lblMarker[static_cast<std::size_t>(label)]);
+    }
+    EXPECT_TRUE(window->lblMarker[1]->hasBorder());
+}
+
+TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
+    click(0);
+    for (const auto& [caption, message] :
+         {std::pair{QStringLiteral("a:b"), "separates the caption"}, {QStringLiteral("\u4F60"), "cannot be saved"}}) {
+        type(caption);
+        dialogs.expect(message);
+        window->cmdSave->click();
+        EXPECT_EQ(window->lblMarker[0]->text(), caption);
+    }
+    type(QStringLiteral("A"));
+    QTest::mouseClick(window->cmdColor[1], Qt::LeftButton);
+    dialogs.expect("You cannot use the same color twice.");
+    window->cmdSave->click();
+    EXPECT_EQ(folder.get("Marker Colors.dat"), file);
+    EXPECT_EQ(OpenedWindow<frmColors>(), window);
+}
+
+TEST_F(ColorsWindow, PastedLineBreaksCannotBreakTheFile) {
+    click(0);
+    QApplication::clipboard()->setText(QStringLiteral("two\r\nlines"));
+    window->txtEdit->selectAll();
+    window->txtEdit->paste();
+    dialogs.expect("Saved.");
+    window->cmdSave->click();
+    const std::string saved = folder.get("Marker Colors.dat");
+    EXPECT_EQ(std::count(saved.begin(), saved.end(), '\n'), 14);
+}
+
+TEST_F(ColorsWindow, ClosingAsksAboutEditsAndExitDoesNot) {
+    click(0);
+    type(QStringLiteral("Bills"));
+    dialogs.expect("save the changes", Answer::Cancel);
+    EXPECT_FALSE(window->close());
+    dialogs.expect("save the changes", Answer::No);
+    EXPECT_TRUE(window->close());
+    window = ShowWindow<frmColors>();
+    EXPECT_EQ(window->lblMarker[0]->text(), QStringLiteral("Account Payable"));
+    click(0);
+    type(QStringLiteral("Bills"));
+    window->cmdExit->click();
+    EXPECT_EQ(OpenedWindow<frmColors>(), nullptr);
+    EXPECT_EQ(folder.get("Marker Colors.dat"), file);
+}
+
+TEST_F(ColorsWindow, EditsSurviveASaveFromElsewhere) {
+    click(0);
+    type(QStringLiteral("Bills"));
+    dialogs.expect("Marker Colors Saved.");
+    SaveHiddenMarks = true;
+    EXPECT_TRUE(SaveMarkerColors());
+    ReadMarkerColors();
+    EXPECT_EQ(folder.get("Marker Colors.dat"), file);
+    EXPECT_EQ(window->lblMarker[0]->text(), QStringLiteral("Bills"));
+}

@@ -1,0 +1,58 @@
+// The window of displayed categories.
+#include "marks/frmMarkers.h"
+
+#include <gtest/gtest.h>
+
+#include "base/text.h"
+#include "marks/modMarkerDisplay.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct MarkersWindow : testing::Test {
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    frmMarkers* window = nullptr;
+
+    MarkersWindow() {
+        std::string file;
+        for (std::size_t k = 0; k < CategoryCount; ++k)
+            file += MarkerCaption[k] + ":" + std::to_string(MarkerPalette[k]) + (k == 3 ? "*" : "") + CrLf;
+        folder.put("Marker Colors.dat", file);
+        ReadMarkerColors();
+        window = ShowWindow<frmMarkers>();
+    }
+    ~MarkersWindow() override { UnloadAllWindows(); }
+    int checked() const {
+        return static_cast<int>(std::count_if(window->chkMarker.begin(), window->chkMarker.end(),
+                                              [](const QCheckBox* box) { return box->isChecked(); }));
+    }
+};
+}  // namespace
+
+TEST_F(MarkersWindow, BoxesFollowTheTablesAndTheTablesTheBoxes) {
+    EXPECT_EQ(checked(), 13);
+    EXPECT_FALSE(window->chkMarker[3]->isChecked());
+    window->chkMarker[11]->click();
+    EXPECT_TRUE(MarkerHidden[TodaysDateCategory]);
+    ShowCategory(3, true);
+    EXPECT_TRUE(window->chkMarker[3]->isChecked());
+    MarkerCaption[3] = "R&D";
+    ShowCategories();
+    EXPECT_EQ(WithoutMnemonic(window->chkMarker[3]->text()), QStringLiteral("RD")) << "shown as R&D, no access key";
+}
+
+TEST_F(MarkersWindow, ButtonsCheckAndUncheckAllAndSave) {
+    window->cmdCheck[1]->click();
+    EXPECT_EQ(checked(), 14);
+    EXPECT_TRUE(TodayShown);
+    window->cmdCheck[0]->click();
+    EXPECT_EQ(checked(), 0);
+    EXPECT_FALSE(TodayShown);
+    dialogs.expect("Marker Colors Saved.");
+    window->cmdSave->click();
+    const std::string file = folder.get("Marker Colors.dat");
+    EXPECT_EQ(std::count(file.begin(), file.end(), '*'), 14);
+    window->cmdExit->click();
+    EXPECT_EQ(OpenedWindow<frmMarkers>(), nullptr);
+}
