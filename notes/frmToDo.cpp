@@ -85,7 +85,7 @@ void frmToDo::layOut() {
     all->addSpacing(Pixels(120));
     all->addLayout(rows);
     all->addStretch(1);
-    resize(Pixels(9600), sizeHint().height());
+    resize(Pixels(9600), all->totalHeightForWidth(Pixels(9600)));
 }
 
 // -- Showing --------------------------------------------------------------------------------------------------------
