@@ -9,7 +9,6 @@
 
 CalendarState Calendar;
 std::function<void()> ClearMarkFlags;
-std::function<void()> RedrawCurrentView;
 std::function<void()> RedrawForDate;
 
 namespace {

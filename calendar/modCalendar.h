@@ -35,6 +35,7 @@ struct CalendarState {
     int calendarView = 0;             // 0 none, 1 one month, 6 six months, 12 one year
     Date typedInDate;                 // the date last clicked; no date where typedIn is false
     bool typedIn = false;
+    Date firstShown;                          // the first day of the first month on display
     Date startedOn;                           // the day on which the program was started
     std::array<Grid<DateHolder>, 2> holders;  // by Year
 };
@@ -80,7 +81,5 @@ bool LiesInNextYear(Date date);
 
 /// Clears the mark flags of both years; filled by the marks.
 extern std::function<void()> ClearMarkFlags;
-/// Draws the current calendar view again, with the months it has. Does nothing where CalendarView is 0.
-extern std::function<void()> RedrawCurrentView;
 /// Draws the current view for another selected date (SelectedDate is set).
 extern std::function<void()> RedrawForDate;

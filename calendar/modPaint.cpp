@@ -38,13 +38,31 @@ void PaintBox(Canvas& canvas, Cell cell, const std::string& number, Color fill, 
     CenteredText(canvas, cell.column + 0.5, cell.row + 1, number, Paint.gridFont, ink);
 }
 
-void PaintNumber(Canvas& canvas, Cell cell, const std::string& number, Color color) {
-    const Font font{"MS Sans Serif", Paint.numbersOffset ? 10.0 : 18.0, true};
-    // What was printed before shows at the edges of the new number's letters: the place is emptied first.
-    const double left =
-        Paint.numbersOffset ? cell.column + 0.05 : cell.column + 0.5 - canvas.textWidth(number, font) / 2;
-    const double top = Paint.numbersOffset ? cell.row + 1 - canvas.textHeight(font) : cell.row + 1.05;
-    canvas.text(left, top, number, font, color);
+Font NumberFont() { return {"MS Sans Serif", Paint.numbersOffset ? 10.0 : 18.0, true}; }
+
+/// The top left corner of a number of the one-month view.
+std::pair<double, double> NumberPlace(Canvas& canvas, Cell cell, const std::string& number) {
+    const Font font = NumberFont();
+    if (Paint.numbersOffset) return {cell.column + 0.05, cell.row + 1 - canvas.textHeight(font)};
+    return {cell.column + 0.5 - canvas.textWidth(number, font) / 2, cell.row + 1.05};
+}
+
+void PrintNumber(Canvas& canvas, Cell cell, const std::string& number, Color color) {
+    const auto [x, y] = NumberPlace(canvas, cell, number);
+    canvas.text(x, y, number, NumberFont(), color);
+}
+
+/// Prints a number over the one that stands there. Its place is emptied first: letters have soft edges, and the colour
+/// printed before would show around the new one.
+void ReprintNumber(Canvas& canvas, Cell cell, const std::string& number, Color color) {
+    const auto [x, y] = NumberPlace(canvas, cell, number);
+    const Font font = NumberFont();
+    canvas.fillBox(x - 0.02, y, x + canvas.textWidth(number, font) + 0.02, y + canvas.textHeight(font), White);
+    PrintNumber(canvas, cell, number, color);
+}
+
+Color& PaintedColor(ShownMonth& shown, Cell cell) {
+    return shown.painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row));
 }
 }  // namespace
 
@@ -58,12 +76,28 @@ void PaintDay(Year slot, Cell cell, int day, Color fill) {
     if (fill == 0) MarkTextColor = Black;
     for (ShownMonth& shown : ShownMonths) {
         if (shown.slot != slot || shown.month != cell.month) continue;
-        if (Paint.style == DayStyle::Number)
-            PaintNumber(*shown.canvas, cell, std::to_string(day), fill);
-        else
+        if (Paint.style == DayStyle::Number) {
+            ReprintNumber(*shown.canvas, cell, std::to_string(day), fill);
+            DayPaint.at(static_cast<std::size_t>(day - 1)) = {true, fill};
+        } else {
             PaintBox(*shown.canvas, cell, std::to_string(day), fill == 0 ? White : fill, MarkTextColor);
-        shown.painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row)) = fill;
+        }
+        PaintedColor(shown, cell) = fill;
     }
+}
+
+void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color) {
+    const std::string number = std::to_string(day);
+    if (Paint.style == DayStyle::Number) {
+        PrintNumber(*shown.canvas, cell, number, color);
+        DayPaint.at(static_cast<std::size_t>(day - 1)) = {true, color};
+    } else if (Paint.numbersOffset && CalendarView == 6) {
+        shown.canvas->text(cell.column + 0.05, cell.row + 1 - shown.canvas->textHeight(Paint.gridFont) / 2, number,
+                           Paint.gridFont, color);
+    } else {
+        CenteredText(*shown.canvas, cell.column + 0.5, cell.row + 1, number, Paint.gridFont, color);
+    }
+    PaintedColor(shown, cell) = color;
 }
 
 ShownMonth* FindShownMonth(Year slot, int month) {
@@ -72,13 +106,18 @@ ShownMonth* FindShownMonth(Year slot, int month) {
     return nullptr;
 }
 
-void DrawMonthHeader(Canvas& canvas, int letters, double y, const Font& font) {
+Canvas* MonthCanvas() { return CalendarView == 1 && !ShownMonths.empty() ? ShownMonths.front().canvas : nullptr; }
+
+void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font) {
     for (int column = 0; column < ColumnsInGrid; ++column) {
         const std::string name = WeekdayNames.at(static_cast<std::size_t>(column));
         CenteredText(canvas, column + 0.5, y, name.substr(0, static_cast<std::size_t>(letters)), font, Black);
     }
-    for (int column = 1; column < ColumnsInGrid; ++column) canvas.line(column, 0.375, column, GridHeight, Black);
-    for (int row = 0; row < RowsInGrid; ++row) canvas.line(0, row + 0.75, GridWidth, row + 0.75, Black);
+}
+
+void DrawGridLines(Canvas& canvas, double top, Color color) {
+    for (int column = 1; column < ColumnsInGrid; ++column) canvas.line(column, top, column, GridHeight, color);
+    for (int row = 0; row < RowsInGrid; ++row) canvas.line(0, row + 0.75, GridWidth, row + 0.75, color);
 }
 
 Cell CellAtPoint(int month, double x, double y) {

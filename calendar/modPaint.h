@@ -32,8 +32,8 @@ struct DayPaintEntry {
 struct PaintState {
     std::vector<ShownMonth> shownMonths;
     DayStyle style = DayStyle::Box;
-    bool numbersOffset = false;  // "Show Numbers Offset"
-    Font gridFont;               // of the numbers and headers of small grids
+    bool numbersOffset = false;         // "Show Numbers Offset"
+    Font gridFont{"MS Sans Serif", 8};  // of the numbers and headers of small grids
     Color markTextColor = Black;
     std::array<DayPaintEntry, 31> dayPaint{};
 };
@@ -55,11 +55,20 @@ void ContrastColor(Color color);
 /// number in the one-month view. `day` is the number printed, 1..31.
 void PaintDay(Year slot, Cell cell, int day, Color fill);
 
+/// Prints the cell's number on one shown month as it stands without mark: black, or the given colour in the one-month
+/// view and its template.
+void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color = Black);
+
 /// The shown month of a slot's month index; null if it is not on display.
 ShownMonth* FindShownMonth(Year slot, int month);
 
-/// Prints the header with the weekdays' first `letters` letters at height `y`, and the grid's lines.
-void DrawMonthHeader(Canvas& canvas, int letters, double y, const Font& font);
+/// The canvas of the one-month view; null while another view is shown.
+Canvas* MonthCanvas();
+
+/// Prints the weekdays' first `letters` letters at height `y`.
+void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font);
+/// Draws the lines between the columns from `top` down, and those above each week row.
+void DrawGridLines(Canvas& canvas, double top, Color color);
 
 /// The cell of a point in a month's picture: column and row by rounding to the nearest whole, halves to the even one.
 /// Outside 0..6 and 0..5 the cell is not valid.

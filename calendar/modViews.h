@@ -16,3 +16,8 @@ void Show1YearCalendar();
 void ShowCurrentCalendar();
 /// Draws the current view again after a command: the months on display stay. Nothing where CalendarView is 0.
 void RedrawCalendar();
+/// Paints the current view from the tables, reading no file: its pictures have another size now.
+void RepaintCalendar();
+
+/// Fills the hooks through which the tables reach up to the views. Once at start-up.
+void InstallViews();

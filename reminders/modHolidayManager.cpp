@@ -10,7 +10,7 @@
 #include "base/files.h"
 #include "base/state.h"
 #include "base/text.h"
-#include "calendar/modCalendar.h"
+#include "calendar/modViews.h"
 #include "reminders/modHolidays.h"
 #include "shell/modErrors.h"
 
@@ -137,7 +137,7 @@ bool SaveHolidayFile() { return Reporting("SaveHolidayFile", WriteHolidayFile); 
 
 void SaveHolidaysAndRedraw() {
     SaveHolidayFile();
-    if (RedrawCurrentView) RedrawCurrentView();
+    RedrawCalendar();
 }
 
 void CloseHolidayList() {

@@ -1,7 +1,44 @@
 // The program.
 #include <QApplication>
+#include <QDir>
+
+#include "base/dialogs.h"
+#include "base/files.h"
+#include "forms/qt/boxes.h"
+#include "forms/qt/instanceLock.h"
+#include "forms/qt/pictures.h"
+#include "forms/qt/printer.h"
+#include "forms/qt/shellLink.h"
+#include "forms/qt/text.h"
+#include "forms/qt/warmUp.h"
+#include "shell/frmMain.h"
+#include "shell/modShortcuts.h"
+
+namespace {
+void MakeLink(bool onDesktop, const std::string& caption, const std::string& programFile) {
+    CreateShellLink(onDesktop ? LinkFolder::Desktop : LinkFolder::Programs, FromText(caption),
+                    FromPath(DataPath(programFile).string()));
+}
+}  // namespace
 
 int main(int argc, char** argv) {
+    const FontScan fonts;
     QApplication application(argc, argv);
-    return 0;
+    QApplication::setApplicationName(QStringLiteral("Tasmoro"));
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setWindowIcon(ProgramIcon());
+    InstallBoxes();
+    const QString folder = QApplication::applicationDirPath();
+    SetDataFolder(folder.toStdString());
+    if (!TakeInstanceLock(folder)) {
+        ShowMessage("Another instance of this application is already running.");
+        return 0;
+    }
+    InstallPrinter();
+    MakeShellLink = MakeLink;
+    auto* window = new frmMain;
+    window->sizeToScreen();
+    window->startUp();
+    window->show();
+    return QApplication::exec();
 }

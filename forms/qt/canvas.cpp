@@ -103,10 +103,17 @@ const Word& WordFor(const WordKey& key) {
 
 // -- The picture ----------------------------------------------------------------------------------------------------
 
-void PictureCanvas::resize(QSize size, double pixelRatio) {
+void PictureCanvas::resize(QSize size, double pixelRatio, double zoom) {
     ratio_ = pixelRatio;
+    zoom_ = zoom;
     image_ = QImage((QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
     clear();
+}
+
+Font PictureCanvas::zoomed(const Font& font) const {
+    Font larger = font;
+    larger.points *= zoom_;
+    return larger;
 }
 
 void PictureCanvas::setScale(double width, double height) {
@@ -168,7 +175,7 @@ void PictureCanvas::box(double x1, double y1, double x2, double y2, Color color)
 
 void PictureCanvas::text(double x, double y, std::string_view text, const Font& font, Color color) {
     if (text.empty()) return;
-    const Word& word = WordFor({FromText(text), font, color, ratio_});
+    const Word& word = WordFor({FromText(text), zoomed(font), color, ratio_});
     const QPoint corner(static_cast<int>(std::lround(toX(x))) + word.offset.x(),
                         static_cast<int>(std::lround(toY(y))) + word.offset.y());
     QPainter painter(&image_);
@@ -177,7 +184,7 @@ void PictureCanvas::text(double x, double y, std::string_view text, const Font& 
 }
 
 double PictureCanvas::textWidth(std::string_view text, const Font& font) {
-    FontFacts& facts = FactsOf(font);
+    FontFacts& facts = FactsOf(zoomed(font));
     const std::string key(text);
     auto known = facts.widths.constFind(key);
     if (known == facts.widths.constEnd()) {
@@ -188,7 +195,7 @@ double PictureCanvas::textWidth(std::string_view text, const Font& font) {
 }
 
 double PictureCanvas::textHeight(const Font& font) {
-    return FactsOf(font).metrics.height() * ratio_ * height_ / image_.height();
+    return FactsOf(zoomed(font)).metrics.height() * ratio_ * height_ / image_.height();
 }
 
 void PictureCanvas::picture(double x, double y, double width, double height, const Path& file) {
@@ -223,19 +230,42 @@ QPointF PictureBox::toScale(QPointF point) const {
             point.y() * canvas_.scaleHeight() / std::max(1, height())};
 }
 
-void PictureBox::paintEvent(QPaintEvent* event) {
-    if (canvas_.image().size() != (QSizeF(size()) * devicePixelRatioF()).toSize()) {
-        canvas_.resize(size(), devicePixelRatioF());
-        Q_EMIT renewed();
-    }
-    QPainter painter(this);
-    const double ratio = devicePixelRatioF();
-    const QRectF source(event->rect().x() * ratio, event->rect().y() * ratio, event->rect().width() * ratio,
-                        event->rect().height() * ratio);
-    painter.drawImage(QRectF(event->rect()), canvas_.image(), source);
+QRect PictureBox::fromScale(const QRectF& rect) const {
+    const double x = width() / canvas_.scaleWidth();
+    const double y = height() / canvas_.scaleHeight();
+    return QRectF(rect.left() * x, rect.top() * y, rect.width() * x, rect.height() * y).toAlignedRect();
 }
 
-void PictureBox::resizeEvent(QResizeEvent*) {
-    canvas_.resize(size(), devicePixelRatioF());
-    Q_EMIT renewed();
+void PictureBox::setZoom(double zoom) {
+    if (zoom == zoom_) return;
+    zoom_ = zoom;
+    renew();
 }
+
+void PictureBox::setFrame(const QRectF& rect) {
+    if (rect == frame_) return;
+    update(fromScale(frame_).adjusted(-3, -3, 3, 3));
+    frame_ = rect;
+    update(fromScale(frame_).adjusted(-3, -3, 3, 3));
+}
+
+void PictureBox::renew() {
+    canvas_.resize(size(), devicePixelRatioF(), zoom_);
+    Q_EMIT renewed();
+    update();
+}
+
+void PictureBox::paintEvent(QPaintEvent* event) {
+    const double ratio = devicePixelRatioF();
+    if (canvas_.image().size() != (QSizeF(size()) * ratio).toSize()) renew();
+    QPainter painter(this);
+    const QRect part = event->rect();
+    const QRectF source(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
+    painter.drawImage(QRectF(part), canvas_.image(), source);
+    if (frame_.isEmpty()) return;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(palette().color(QPalette::Highlight), 2));
+    painter.drawRoundedRect(QRectF(fromScale(frame_)).adjusted(1, 1, -1, -1), 3, 3);
+}
+
+void PictureBox::resizeEvent(QResizeEvent*) { renew(); }

@@ -18,8 +18,8 @@ QFont FromFont(const Font& font);
 /// A canvas that draws into a picture, crisp at the screen's scaling.
 class PictureCanvas : public Canvas {
   public:
-    /// Makes the picture `size` logical pixels large and white. The scale stays.
-    void resize(QSize size, double pixelRatio);
+    /// Makes the picture `size` logical pixels large and white. The scale stays. `zoom` enlarges all fonts.
+    void resize(QSize size, double pixelRatio, double zoom = 1);
     const QImage& image() const { return image_; }
 
     void setScale(double width, double height) override;
@@ -47,7 +47,10 @@ class PictureCanvas : public Canvas {
     void fillDevice(const QRect& device, Color color);
 
     QImage image_;
+    Font zoomed(const Font& font) const;
+
     double ratio_ = 1;
+    double zoom_ = 1;
     double width_ = 1;
     double height_ = 1;
     QRect changed_;
@@ -64,6 +67,12 @@ class PictureBox : public QWidget {
     void refresh();
     /// The point of the box in the canvas's scale.
     QPointF toScale(QPointF point) const;
+    /// The rectangle of the canvas's scale in the box.
+    QRect fromScale(const QRectF& rect) const;
+    /// How much larger than at 100 % the fonts are drawn. The picture is made anew.
+    void setZoom(double zoom);
+    /// Frames a rectangle of the canvas's scale, above the picture; an empty one frames nothing.
+    void setFrame(const QRectF& rect);
 
   Q_SIGNALS:
     /// The picture was made anew (size or scaling changed): it is white and must be drawn again.
@@ -82,5 +91,9 @@ class PictureBox : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override { Q_EMIT doubleClick(event); }
 
   private:
+    void renew();
+
     PictureCanvas canvas_;
+    double zoom_ = 1;
+    QRectF frame_;
 };

@@ -3,7 +3,9 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QPointer>
 #include <QScreen>
+#include <QWindow>
 #include <algorithm>
 #include <vector>
 
@@ -12,7 +14,11 @@ std::vector<Window*>& OpenWindows() {
     static std::vector<Window*> open;
     return open;
 }
+QPointer<QWidget> TheMainWindow;
 }  // namespace
+
+QWidget* MainWindow() { return TheMainWindow; }
+void SetMainWindow(QWidget* window) { TheMainWindow = window; }
 
 Window::Window(const char* name, const QString& caption) {
     setObjectName(QString::fromLatin1(name));
@@ -41,6 +47,11 @@ QWidget* windows::find(const std::type_info& type) {
 }
 
 void windows::present(QWidget* window) {
+    // Windows stay in front of the main window and go with it, as its own.
+    if (QWidget* main = MainWindow(); main != nullptr && window != main && window->isWindow()) {
+        window->winId();
+        window->windowHandle()->setTransientParent(main->windowHandle());
+    }
     if (window->isMinimized())
         window->showNormal();
     else

@@ -45,6 +45,10 @@ W* LoadedWindow();
 template <class W>
 W* ShowWindow();
 
+/// The program's main window, to which the others belong; null before there is one.
+QWidget* MainWindow();
+void SetMainWindow(QWidget* window);
+
 /// Closes every window of the program but the one given, without asking. For the end of the program.
 void UnloadAllWindows(const QWidget* but = nullptr);
 

@@ -1,0 +1,38 @@
+// The one-month view: the month's grid, and beside it the sheet of day labels.
+#pragma once
+
+#include <QLabel>
+#include <QScrollBar>
+
+#include "calendar/frmMonthsWindow.h"
+
+class frmMonth : public MonthsWindow {
+    Q_OBJECT
+
+  public:
+    frmMonth();
+
+    /// In template mode the navigation and the left panel are hidden.
+    void setTemplateMode(bool templateMode);
+    /// True where the window is wide enough for the day labels.
+    bool leftPanelVisible() const { return leftPanelVisible_; }
+    QLabel* label(int index) const { return lblTTT.at(static_cast<std::size_t>(index)); }
+    MonthPicture* picMonth() const { return picture(0); }
+
+  protected:
+    void layOut() override;
+    void goNext() override;
+    void goPrevious() override;
+
+  private:
+    void buildLeftPanel();
+    void layOutLeftPanel();
+    void VScroll1_Change(int value);
+
+    QWidget* picLeft;
+    QWidget* picTTT;
+    QScrollBar* VScroll1;
+    std::array<QLabel*, 36> lblTTT{};
+    bool templateMode_ = false;
+    bool leftPanelVisible_ = false;
+};

@@ -1,0 +1,84 @@
+// One month's picture in a calendar window.
+#include "calendar/frmMonthPicture.h"
+
+#include <QHelpEvent>
+#include <QMouseEvent>
+#include <QToolTip>
+
+#include "calendar/modCalendar.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
+#include "forms/qt/text.h"
+
+MonthPicture::MonthPicture(QWidget* parent, int index) : PictureBox(parent), index_(index) {
+    setFocusPolicy(Qt::NoFocus);
+}
+
+const ShownMonth* MonthPicture::shown() const {
+    const auto index = static_cast<std::size_t>(index_);
+    return index < ShownMonths.size() ? &ShownMonths[index] : nullptr;
+}
+
+void MonthPicture::showSelection() {
+    const ShownMonth* month = shown();
+    const bool here = month != nullptr && SelectedCell.month == month->month && HasDate(month->year, SelectedCell) &&
+                      DateAt(*month, SelectedCell) == SelectedDate;
+    setFrame(here ? QRectF(SelectedCell.column, SelectedCell.row + 0.75, 1, 1) : QRectF());
+}
+
+void MonthPicture::mousePressEvent(QMouseEvent* event) {
+    if (const ShownMonth* month = shown()) {
+        const QPointF point = toScale(event->position());
+        const bool day = SelectAt(*month, point.x(), point.y());
+        Q_EMIT selected();
+        if (day && event->button() == Qt::RightButton) {
+            Tell(Shell.enableItem, "mnuOptDateRemoveIcon", false);
+            ShowHover(HoverAt(*month, point.x(), point.y()));
+            Tell(Shell.popUpDateOptions);
+        }
+    }
+    PictureBox::mousePressEvent(event);
+}
+
+void MonthPicture::mouseMoveEvent(QMouseEvent* event) {
+    const ShownMonth* month = shown();
+    const QPoint point = event->position().toPoint();
+    if (month != nullptr && hoverEnabled_ && point != lastPoint_) {
+        lastPoint_ = point;
+        const QPointF place = toScale(event->position());
+        ShowHover(HoverAt(*month, place.x(), place.y()));
+    }
+    PictureBox::mouseMoveEvent(event);
+}
+
+void MonthPicture::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::LeftButton) OpenNoteOfPickers();
+    PictureBox::mouseDoubleClickEvent(event);
+}
+
+void MonthPicture::leaveEvent(QEvent* event) {
+    Tell(Shell.showNoteButton, false);
+    PictureBox::leaveEvent(event);
+}
+
+bool MonthPicture::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip) {
+        showToolTip(static_cast<QHelpEvent*>(event));
+        return true;
+    }
+    return PictureBox::event(event);
+}
+
+void MonthPicture::showToolTip(QHelpEvent* event) {
+    const ShownMonth* month = shown();
+    if (month == nullptr || !hoverEnabled_) return;
+    const QPointF point = toScale(event->pos());
+    const Hover hover = HoverAt(*month, point.x(), point.y());
+    if (hover.text.empty()) {
+        QToolTip::hideText();
+        return;
+    }
+    // Shown for this cell alone: over the next one it goes, and comes again with that day's text.
+    const QRect cell = fromScale(QRectF(hover.cell.column, hover.cell.row + 0.75, 1, 1));
+    QToolTip::showText(event->globalPos(), FromText(hover.text).toHtmlEscaped(), this, cell);
+}

@@ -1,0 +1,38 @@
+// One month's picture in a calendar window: follows the pointer, selects days, opens their menu and their note.
+#pragma once
+
+#include "calendar/modPaint.h"
+#include "forms/qt/canvas.h"
+
+class MonthPicture : public PictureBox {
+    Q_OBJECT
+
+  public:
+    /// `index`: the month's place in the list of shown months.
+    MonthPicture(QWidget* parent, int index);
+
+    /// Frames the selected cell if it lies in this month.
+    void showSelection();
+    /// Turned off while an icon is dragged.
+    void setHoverEnabled(bool enabled) { hoverEnabled_ = enabled; }
+
+  Q_SIGNALS:
+    /// A day was selected, by pointer or key.
+    void selected();
+
+  protected:
+    bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void leaveEvent(QEvent* event) override;
+
+  private:
+    /// The month as it is listed; null while nothing is shown.
+    const ShownMonth* shown() const;
+    void showToolTip(class QHelpEvent* event);
+
+    int index_;
+    bool hoverEnabled_ = true;
+    QPoint lastPoint_{-1, -1};
+};

@@ -1,0 +1,143 @@
+// What the three calendar windows share.
+#include "calendar/frmMonthsWindow.h"
+
+#include <QKeyEvent>
+#include <QResizeEvent>
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "calendar/modCalendar.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
+
+MonthsWindow::MonthsWindow(const char* name, const QString& caption, int view, int months)
+    : Window(name, caption), picMain(Named(new QWidget(this), QStringLiteral("picMain"), caption)), view_(view) {
+    setFocusPolicy(Qt::StrongFocus);
+    picMain->setMouseTracking(true);
+    for (int i = 0; i < months; ++i) {
+        const QString pictureName = months == 1 ? QStringLiteral("picMonth") : ElementName("picMonth", i);
+        auto* month = Named(new MonthPicture(picMain, i), pictureName, QStringLiteral("Month"));
+        pictures_.push_back(month);
+        connect(month, &PictureBox::renewed, this, &MonthsWindow::repaintLater);
+        connect(month, &MonthPicture::selected, this, [this] {
+            for (auto* each : pictures_) each->showSelection();
+            setFocus();
+        });
+    }
+    buildNavigation();
+}
+
+void MonthsWindow::buildNavigation() {
+    picNav = Named(new QWidget(picMain), QStringLiteral("picNav"));
+    cmdPrev = Named(new QPushButton(QStringLiteral("< Prev."), picNav), QStringLiteral("cmdPrev"),
+                    QStringLiteral("Previous"));
+    cmdNext =
+        Named(new QPushButton(QStringLiteral("Next >"), picNav), QStringLiteral("cmdNext"), QStringLiteral("Next"));
+    cmdPrev->setToolTip(QStringLiteral("Shortcut = Left Key"));
+    cmdNext->setToolTip(QStringLiteral("Shortcut = Right Key"));
+    auto* row = new QHBoxLayout(picNav);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (auto* button : {cmdPrev, cmdNext}) {
+        button->setFocusPolicy(Qt::TabFocus);
+        row->addWidget(button);
+    }
+    connect(cmdPrev, &QPushButton::clicked, this, [this] {
+        goPrevious();
+        setFocus();
+    });
+    connect(cmdNext, &QPushButton::clicked, this, [this] {
+        goNext();
+        setFocus();
+    });
+}
+
+std::vector<Canvas*> MonthsWindow::canvases() {
+    std::vector<Canvas*> all;
+    for (auto* month : pictures_) all.push_back(&month->canvas());
+    return all;
+}
+
+void MonthsWindow::showDrawn() {
+    renewing_ = false;
+    for (auto* month : pictures_) {
+        month->refresh();
+        month->showSelection();
+    }
+}
+
+void MonthsWindow::place(QWidget* control, double left, double top, double width, double height) const {
+    const auto scaled = [this](double twips) { return static_cast<int>(std::lround(twips / 15 * zoom_)); };
+    control->setGeometry(scaled(left), scaled(top), scaled(width), scaled(height));
+}
+
+void MonthsWindow::resizeEvent(QResizeEvent*) {
+    if (isMinimized()) return;
+    // The view grows with its window, in whole and even proportions; it never shrinks below its own size.
+    const double fits = std::min(width() / (ViewWidth / 15.0), height() / (ViewHeight / 15.0));
+    zoom_ = std::clamp(std::floor(fits * 20) / 20, 1.0, 3.0);
+    for (auto* month : pictures_) month->setZoom(zoom_);
+    layOut();
+    repaintNow();
+}
+
+void MonthsWindow::repaintLater() {
+    // Pictures made anew are white. They are painted together, once, when all of them have their size.
+    if (!std::exchange(renewing_, true))
+        QMetaObject::invokeMethod(this, &MonthsWindow::repaintNow, Qt::QueuedConnection);
+}
+
+void MonthsWindow::repaintNow() {
+    if (renewing_ && CalendarView == view_) RepaintCalendar();
+}
+
+void MonthsWindow::keyPressEvent(QKeyEvent* event) {
+    if (event->modifiers() == Qt::ControlModifier && moveSelection(event->key())) return;
+    switch (event->key()) {
+        case Qt::Key_Right:
+            goNext();
+            return;
+        case Qt::Key_Left:
+            goPrevious();
+            return;
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            OpenNoteOfPickers();
+            return;
+        case Qt::Key_Menu:
+            Tell(Shell.popUpDateOptions);
+            return;
+        case Qt::Key_Escape:
+            if (view_ != 12) {
+                Show1YearCalendar();
+                return;
+            }
+            break;
+        default:
+            break;
+    }
+    Window::keyPressEvent(event);
+}
+
+bool MonthsWindow::moveSelection(int key) {
+    const int days = key == Qt::Key_Left    ? -1
+                     : key == Qt::Key_Right ? 1
+                     : key == Qt::Key_Up    ? -7
+                     : key == Qt::Key_Down  ? 7
+                                            : 0;
+    if (days == 0) return false;
+    const Date date = SelectedDate + days;
+    for (const ShownMonth& month : ShownMonths) {
+        if (month.year != YearOf(date) || month.month != MonthOf(date) - 1) continue;
+        const Cell cell = CellOf(date);
+        SelectAt(month, cell.column + 0.5, cell.row + 1.25);
+        for (auto* picture : pictures_) picture->showSelection();
+        return true;
+    }
+    return true;
+}
+
+void MonthsWindow::unload() {
+    if (CalendarView == view_) ShownMonths.clear();
+}

@@ -1,0 +1,4 @@
+// The main window's calls.
+#include "calendar/modShell.h"
+
+ShellCalls Shell;

@@ -1,0 +1,50 @@
+// Links to programs, as each system keeps them.
+#include "forms/qt/shellLink.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+#include "base/errors.h"
+#include "base/files.h"
+
+namespace {
+QString FolderOf(LinkFolder folder) {
+    const QString path = QStandardPaths::writableLocation(
+        folder == LinkFolder::Desktop ? QStandardPaths::DesktopLocation : QStandardPaths::ApplicationsLocation);
+    if (path.isEmpty() || !QDir().mkpath(path)) throw Error(PathNotFound);
+    return path;
+}
+
+#ifdef Q_OS_WIN
+void WriteLink(const QString& folder, const QString& caption, const QString& target) {
+    const QString link = folder + QLatin1Char('/') + caption + QStringLiteral(".lnk");
+    QFile::remove(link);
+    if (!QFile::link(target, link)) throw Error(PathFileAccess);
+}
+#else
+/// A path inside a desktop entry's quotes.
+QString Quoted(QString path) {
+    for (const char special : {'\\', '"', '`', '$'})
+        path.replace(QLatin1Char(special), QStringLiteral("\\") + QLatin1Char(special));
+    path.replace(QLatin1Char('\\'), QStringLiteral("\\\\")).replace(QLatin1Char('%'), QStringLiteral("%%"));
+    return QLatin1Char('"') + path + QLatin1Char('"');
+}
+
+void WriteLink(const QString& folder, const QString& caption, const QString& target) {
+    const QString link = folder + QLatin1Char('/') + caption + QStringLiteral(".desktop");
+    const QString icon = QFileInfo(target).path() + QStringLiteral("/tasmoro.png");
+    const QString text =
+        QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nIcon=%3\nTerminal=false\n")
+            .arg(caption, Quoted(target), icon);
+    WriteWholeFile(Path(link.toStdString()), text.toStdString());
+    // Desktops start only entries that their owner may execute.
+    QFile::setPermissions(link, QFile::permissions(link) | QFile::ExeOwner | QFile::ExeUser);
+}
+#endif
+}  // namespace
+
+void CreateShellLink(LinkFolder folder, const QString& caption, const QString& target) {
+    WriteLink(FolderOf(folder), caption, target);
+}

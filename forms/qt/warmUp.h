@@ -1,0 +1,18 @@
+// What the program would wait for later, begun at once.
+#pragma once
+
+#include <thread>
+
+/// Scans the system's fonts beside the making of the application object, which needs most of the time that the scan
+/// takes. Make one before the application object; it waits for the scan where it goes out of scope. Where fonts are not
+/// scanned at start-up it does nothing.
+class FontScan {
+  public:
+    FontScan();
+    FontScan(const FontScan&) = delete;
+    FontScan& operator=(const FontScan&) = delete;
+    ~FontScan();
+
+  private:
+    std::thread thread_;
+};

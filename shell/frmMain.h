@@ -1,0 +1,86 @@
+// The main window: menus, the strip of pickers and view buttons, the side panel, the bottom panels, and in the middle
+// the calendar.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <array>
+
+#include "calendar/frmMonthsWindow.h"
+#include "forms/qt/menus.h"
+#include "forms/qt/pictureButton.h"
+#include "forms/qt/window.h"
+
+class frmMain : public Window {
+    Q_OBJECT
+
+  public:
+    frmMain();
+
+    /// The start-up sequence, ending in the one-year view. Once, before the window is shown.
+    void startUp();
+    /// Maximised where the screen is at least 1024 x 768, 800 x 600 logical pixels otherwise.
+    void sizeToScreen();
+
+    QAction* item(const QString& name) const { return menus_[name]; }
+    bool queryUnload() override;
+
+    QWidget* picTop;
+    QComboBox* cmbMonth;
+    QComboBox* cmbDay;
+    QComboBox* cmbYear;
+    std::array<PictureButton*, 2> imgOpt{};
+    std::array<PictureButton*, 3> imgCal{};
+    QLabel* lblTemplate;
+    QPushButton* cmdAlert;
+    PictureButton* imgAlert;
+    PictureButton* imgBDay;
+    PictureLabel* imgNotes;
+    std::array<QWidget*, 2> picBottom{};
+    QLabel* lblDate;
+    QLabel* lblHoliday;
+    QLabel* lblMonth;
+    QLabel* lblX;
+    QLabel* lblY;
+    QWidget* picRight;
+    QListWidget* lstAlerts;
+    QLabel* lblAlertDate;
+    QListWidget* lstBirthdays;
+    QLabel* lblBirthdayDate;
+
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void unload() override;
+
+  private:
+    void buildMenus();
+    void buildTopStrip();
+    QComboBox* picker(const QString& name, const QString& spoken, int characters);
+    void buildIndicators(QWidget* strip);
+    void buildRightPanel();
+    void buildBottomPanels();
+    void layOutParts();
+    void fillShellCalls();
+    void fillReminderHooks();
+    void loadComboBoxes();
+
+    std::vector<Canvas*> openView(int view);
+    MonthsWindow* calendarWindow() const;
+    void cmbYear_LostFocus();
+    void cmdAlert_MouseDown(Qt::MouseButton button);
+    void lstAlerts_Click();
+    void lstBirthdays_Click();
+    void showAlertIndicator();
+    void showBirthdayIndicator();
+    /// The panels beside and below the calendar show only where it keeps its own size.
+    void arrangePanels();
+
+    Menus menus_;
+    QWidget* middle_;  // where the calendar windows stand
+};
+
+/// The main window's menu table.
+std::vector<MenuItem> MainMenuTable();

@@ -1,0 +1,127 @@
+// Pointing at days: what a click selects, what the hover says, in every view.
+#include "calendar/modSelection.h"
+
+#include "calendar/modCalendar.h"
+#include "marks/modCategories.h"
+#include "notes/modNotes.h"
+#include "reminders/modBirthdays.h"
+#include "tests/support/calendar.h"
+
+namespace {
+class Selection : public CalendarTest {
+  protected:
+    void putData() const {
+        folder.put("Holidays/2026Holidays.dat", "07/04/26:Independence Day\r\n12/25/26:Christmas Day\r\n");
+        folder.put("Birthdays.dat", "07/04:05:Anna:1990\r\n07/04:05:Ben:****\r\n03/01:00:Zo\xEB:2001\r\n");
+        folder.put("2026Marks.dat", "02:01:00:255-Dentist 9:30\r\n06:06:00:8388736\r\n");  // March 2, July 4
+        folder.put("2026/Notes.dat", "03/02/26:020100:Call the office\r\n");
+        ReadBirthdays();
+    }
+};
+
+TEST_F(Selection, ClickSelectsTheDayInEveryView) {
+    for (const int view : {1, 6, 12}) {
+        show(view, 2026, 7, 1);
+        ASSERT_TRUE(click(2026, 7, 31)) << view;
+        EXPECT_EQ(SelectedDate, MakeDate(2026, 7, 31));
+        EXPECT_EQ(SelectedCell, CellOf(MakeDate(2026, 7, 31)));
+        EXPECT_EQ(pickers, "July 31 2026");
+        EXPECT_EQ(holidayLabel, "No Holiday Assigned");
+        EXPECT_TRUE(enabled["mnuOptDateQuickMark"]);
+        EXPECT_FALSE(enabled["mnuOptDateClearMark"]);
+        EXPECT_TRUE(Calendar.typedIn);
+    }
+}
+
+TEST_F(Selection, HeaderAndEmptyCellsSelectNoDayAndForgetTheLast) {
+    show(1, 2015, 2, 10);
+    for (const auto& [x, y] : {std::pair{3.5, 0.3}, std::pair{3.5, 0.75}, std::pair{0.5, 5.5}, std::pair{6.9, 6.7}}) {
+        ASSERT_TRUE(click(2015, 2, 14));
+        EXPECT_FALSE(SelectAt(ShownMonths.front(), x, y)) << x << "," << y;
+        EXPECT_FALSE(Calendar.typedIn);
+        EXPECT_EQ(SelectedDate, MakeDate(2015, 2, 14));
+    }
+}
+
+TEST_F(Selection, DoubleClickOpensTheNoteOnlyOfTheDayLastClicked) {
+    std::string opened;
+    NoteEditor.open = [&](const std::string& title, const std::string&) { opened = title; };
+    show(1, 2026, 3, 10);
+    click(2026, 3, 2);
+    OpenNoteOfPickers();
+    EXPECT_EQ(opened, "Notes for March 02, 2026");
+    opened.clear();
+    SelectAt(ShownMonths.front(), 3.5, 6.5);  // an empty cell
+    OpenNoteOfPickers();
+    EXPECT_EQ(opened, "");
+    pickers = "February 30 2026";
+    dialogs.expect("An error occurred in picMonth_DblClick.");
+    OpenNoteOfPickers();
+    EXPECT_EQ(opened, "");
+    NoteEditor = {};
+}
+
+TEST_F(Selection, HoverNamesWhatIsOnTheDay) {
+    putData();
+    struct Row {
+        int month;
+        int day;
+        const char* text;
+    };
+    const Row rows[] = {
+        {3, 2, "Meeting: Dentist 9:30"},
+        {3, 1, "Birthday: Zo\xEB"},
+        {3, 3, ""},
+        {7, 4, "Birthday: Anna, Ben, Holiday: Independence Day"},  // marked in the Birthday colour, too
+        {12, 25, "Holiday: Christmas Day"},
+        {11, 22, "Today's Date"},
+    };
+    show(12, 2026, 1, 1);
+    for (const Row& row : rows) EXPECT_EQ(hoverText(2026, row.month, row.day), row.text) << row.month << "/" << row.day;
+    for (const Row& row : rows) {
+        show(1, 2026, row.month, 10);
+        EXPECT_EQ(hoverText(2026, row.month, row.day), row.text) << row.month << "/" << row.day;
+    }
+    show(12, 2026, 1, 1);
+    click(2026, 12, 25);
+    EXPECT_EQ(holidayLabel, "Holiday = Christmas Day");
+}
+
+TEST_F(Selection, HiddenCategoriesAreSilent) {
+    putData();
+    MarkerHidden[HolidayCategory] = MarkerHidden[9] = true;
+    show(12, 2026, 1, 1);
+    EXPECT_EQ(hoverText(2026, 12, 25), "");
+    EXPECT_EQ(hoverText(2026, 3, 2), "");
+    EXPECT_EQ(hoverText(2026, 7, 4), "Birthday: Anna, Ben");
+}
+
+TEST_F(Selection, MenuFollowsWhatThePointerIsOver) {
+    putData();
+    show(1, 2026, 3, 10);
+    const auto hoverOver = [](int day) {
+        const Cell cell = CellOf(MakeDate(2026, 3, day));
+        const Hover hover = HoverAt(ShownMonths.front(), cell.column + 0.5, cell.row + 1.25);
+        ShowHover(hover);
+        return hover;
+    };
+    EXPECT_TRUE(hoverOver(2).hasNote);
+    EXPECT_TRUE(enabled["mnuOptDateAttachHoverText"]);
+    EXPECT_FALSE(hoverOver(3).hasNote);
+    EXPECT_FALSE(enabled["mnuOptDateAttachHoverText"]);
+    click(2026, 3, 2);
+    EXPECT_TRUE(enabled["mnuOptDateClearMark"]);
+    EXPECT_FALSE(enabled["mnuOptDateQuickMark"]);
+}
+
+TEST_F(Selection, NextYearsDaysReadNextYearsTables) {
+    folder.put("2027Marks.dat", "00:02:01:255-Budget");      // January 5, 2027
+    folder.put("2026Marks.dat", "00:01:01:255-Other year");  // January 5, 2026
+    show(6, 2026, 9, 1);
+    EXPECT_EQ(hoverText(2027, 1, 5), "Meeting: Budget");
+    ASSERT_TRUE(click(2027, 1, 5));
+    EXPECT_TRUE(SelectedInNextYear);
+    ASSERT_TRUE(click(2026, 12, 5));
+    EXPECT_FALSE(SelectedInNextYear);
+}
+}  // namespace

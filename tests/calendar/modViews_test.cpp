@@ -1,0 +1,200 @@
+// What the views draw, read as recorded text; which months they show; what they tell the main window.
+#include "calendar/modViews.h"
+
+#include <algorithm>
+
+#include "base/clock.h"
+#include "calendar/modCalendar.h"
+#include "calendar/modNavigation.h"
+#include "calendar/modPaint.h"
+#include "marks/modCategories.h"
+#include "tests/support/calendar.h"
+
+namespace {
+class Views : public CalendarTest {};
+
+/// The numbers printed on a month, in the order of printing.
+std::string NumbersOn(const Recorder& month) {
+    std::string numbers;
+    for (const auto& call : month.containing("text ")) {
+        const auto from = call.find('\'') + 1;
+        const std::string word = call.substr(from, call.find('\'', from) - from);
+        if (word.find_first_not_of("0123456789") == std::string::npos) numbers += word + " ";
+    }
+    return numbers;
+}
+
+TEST_F(Views, MonthIsDrawnAsAGridOfNumbers) {
+    show(1, 2015, 2, 10);  // starts on Sunday, 28 days: four rows
+    const Recorder& drawn = month(0);
+    EXPECT_EQ(caption, "Tasmoro: Feb 2015 Calendar");
+    EXPECT_TRUE(drawn.has("text 2.8 0.1 'February, 2015' MS Sans Serif 10 000000"));
+    EXPECT_TRUE(drawn.has("text 0.35 0.475 'Sun' MS Sans Serif 10 000000"));
+    EXPECT_TRUE(drawn.has("text 0.41 1.05 '1' MS Sans Serif 18 bold 000000"));
+    EXPECT_TRUE(drawn.has("text 6.32 4.05 '28' MS Sans Serif 18 bold 000000"));
+    EXPECT_EQ(drawn.containing("bold").size(), 28u);
+    EXPECT_EQ(drawn.containing("line ").size(), 13u);  // six between columns, six above rows, one under the title
+}
+
+TEST_F(Views, NumbersOffsetPrintsSmallInTheCorner) {
+    Paint.numbersOffset = true;
+    show(1, 2026, 8, 1);  // starts on Saturday: the 31st is in the sixth row
+    EXPECT_TRUE(month(0).has("text 6.05 0.8 '1' MS Sans Serif 10 bold 000000"));
+    EXPECT_TRUE(month(0).has("text 1.05 5.8 '31' MS Sans Serif 10 bold 000000"));
+}
+
+TEST_F(Views, TodayIsPaintedWhileShown) {
+    FixClock(2026, 11, 23);  // the program was started the day before
+    show(12, 2026, 3, 1);
+    EXPECT_EQ(month(10).containing("fill "), (std::vector<std::string>{"fill 0.1 3.85 0.9 4.65 FFFF00"}));  // the 22nd
+    show(1, 2026, 11, 5);
+    EXPECT_EQ(month(0).containing("FFFF00").size(), 1u);
+    EXPECT_NE(month(0).containing("FFFF00").at(0).find("'23'"), std::string::npos);
+    TodayShown = false;
+    show(1, 2026, 11, 5);
+    EXPECT_TRUE(month(0).containing("FFFF00").empty());
+    show(12, 2026, 3, 1);
+    EXPECT_TRUE(month(10).containing("fill ").empty());
+}
+
+TEST_F(Views, YearShowsTwelveMonths) {
+    show(12, 2009, 5, 17);
+    EXPECT_EQ(caption, "Tasmoro: 2009 Calendar");
+    EXPECT_EQ(monthCaptions[1], "February, 2009");
+    EXPECT_EQ(monthCaptions[11], "December, 2009");
+    for (int m = 0; m < 12; ++m) {
+        std::string all;
+        for (int day = 1; day <= DaysInMonth(2009, m + 1); ++day) all += std::to_string(day) + " ";
+        EXPECT_EQ(NumbersOn(month(static_cast<std::size_t>(m))), all) << "month " << m;
+    }
+    EXPECT_TRUE(month(7).has("text 1.42 6 '31' MS Sans Serif 8 000000"))
+        << month(7).containing("'31'").at(0);  // August: sixth row
+    EXPECT_TRUE(month(0).has("text 0.42 0.295 'Su' MS Sans Serif 8 000000")) << month(0).containing("'Su'").at(0);
+}
+
+TEST_F(Views, SixMonthsReachIntoNextYear) {
+    struct Row {
+        int month;
+        bool spans;
+        const char* last;
+    };
+    for (const Row& row :
+         {Row{7, false, "December, 2009"}, Row{8, true, "January, 2010"}, Row{12, true, "May, 2010"}}) {
+        show(6, 2009, row.month, 15);
+        EXPECT_EQ(SpansNextYear, row.spans);
+        EXPECT_EQ(monthCaptions[5], row.last);
+        EXPECT_EQ(NextDateHolders(0, 5, 0).empty(), !row.spans);  // January 1, 2010 was a Friday
+    }
+    const std::string february = NumbersOn(month(2));  // of 2010
+    EXPECT_EQ(february.substr(0, 6), "1 2 3 ");
+    EXPECT_EQ(std::count(february.begin(), february.end(), ' '), 28);
+}
+
+TEST_F(Views, DataIsPaintedHolidaysThenBirthdaysThenMarks) {
+    folder.put("Holidays/2026Holidays.dat", "12/25/26:Christmas Day\r\n07/04/26:Independence Day\r\n");
+    folder.put("2026Marks.dat", "11:05:03:255-Dinner");  // December 25, column 5, row 3
+    show(12, 2026, 1, 1);
+    EXPECT_EQ(month(11).containing("fill "),
+              (std::vector<std::string>{"fill 5.1 3.85 5.9 4.65 FF0000", "fill 5.1 3.85 5.9 4.65 0000FF"}));
+    EXPECT_EQ(month(6).containing("fill ").size(), 1u);
+    show(1, 2026, 12, 1);
+    EXPECT_NE(month(0).containing("'25'").back().find("bold 0000FF"), std::string::npos);
+    EXPECT_EQ(DayPaint[24].color, MeetingColor);
+}
+
+TEST_F(Views, NothingOfAnotherYearShows) {
+    folder.put("2026Marks.dat", "11:05:03:255-Dinner");
+    show(12, 2026, 1, 1);
+    EXPECT_EQ(hoverText(2026, 12, 25), "Meeting: Dinner");
+    ShowNeighbourYear(1);
+    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 1));
+    EXPECT_EQ(pickers, "January 1 2027");
+    EXPECT_TRUE(month(11).containing("fill ").empty());
+    for (int day = 1; day <= 31; ++day) EXPECT_EQ(hoverText(2027, 12, day), "");
+}
+
+TEST_F(Views, RedrawByACommandKeepsTheMonthsOnDisplay) {
+    show(6, 2026, 9, 1);
+    ASSERT_TRUE(click(2027, 1, 5));
+    EXPECT_TRUE(SelectedInNextYear);
+    RedrawCalendar();
+    EXPECT_EQ(monthCaptions[0], "September, 2026");
+    EXPECT_EQ(Calendar.yearOnDisplay, 2026);
+    EXPECT_FALSE(SelectedInNextYear);
+    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 5));
+}
+
+TEST_F(Views, RepaintDrawsTheSameFromTheTables) {
+    folder.put("Holidays/2026Holidays.dat", "12/25/26:Christmas Day\r\n");
+    folder.put("2026Marks.dat", "10:00:03:255");
+    for (const int view : {1, 12}) {
+        show(view, 2026, 11, 3);
+        std::vector<std::vector<std::string>> before;
+        for (std::size_t i = 0; i < ShownMonths.size(); ++i) before.push_back(month(i).calls());
+        folder.put("2026Marks.dat", "not a mark");  // must not be read again
+        RepaintCalendar();
+        for (std::size_t i = 0; i < before.size(); ++i) EXPECT_EQ(month(i).calls(), before[i]) << view << " " << i;
+        folder.put("2026Marks.dat", "10:00:03:255");
+    }
+}
+
+TEST_F(Views, MenuItemsFollowTheView) {
+    struct Row {
+        const char* item;
+        bool month;
+        bool six;
+        bool year;
+    };
+    const Row rows[] = {{"mnuFilePrintCalendar", true, false, false}, {"mnuOptCal", true, false, false},
+                        {"mnuOptDateShowIcons", true, false, false},  {"mnuFileSaveCalendar", true, false, false},
+                        {"mnuFileSaveTemplate", false, false, false}, {"mnuEditDeleteMarks", false, false, true},
+                        {"mnuOptDateRemoveAll", false, false, false}};
+    for (const int view : {1, 6, 12}) {
+        show(view, 2026, 11, 22);
+        EXPECT_EQ(pressed, view);
+        for (const Row& row : rows)
+            EXPECT_EQ(enabled[row.item], view == 1 ? row.month : view == 6 ? row.six : row.year) << row.item;
+    }
+}
+
+TEST_F(Views, NavigationLandsOnTheFirst) {
+    struct Row {
+        int view;
+        Date from;
+        void (*step)(int);
+        int direction;
+        Date to;
+    };
+    const Row rows[] = {
+        {1, MakeDate(2026, 12, 31), ShowNeighbourMonth, 1, MakeDate(2027, 1, 1)},
+        {1, MakeDate(2026, 1, 31), ShowNeighbourMonth, -1, MakeDate(2025, 12, 1)},
+        {6, MakeDate(2009, 3, 15), ShowNeighbourHalfYear, 1, MakeDate(2009, 9, 1)},
+        {6, MakeDate(2009, 9, 30), ShowNeighbourHalfYear, 1, MakeDate(2010, 3, 1)},
+        {6, MakeDate(2009, 3, 31), ShowNeighbourHalfYear, -1, MakeDate(2008, 9, 1)},
+        {12, MakeDate(2009, 7, 4), ShowNeighbourYear, -1, MakeDate(2008, 1, 1)},
+    };
+    for (const Row& row : rows) {
+        show(row.view, YearOf(row.from), MonthOf(row.from), DayOf(row.from));
+        row.step(row.direction);
+        EXPECT_EQ(SelectedDate, row.to) << FormatDate(row.from, "yyyy-mm-dd");
+        EXPECT_EQ(CalendarView, row.view);
+    }
+}
+
+TEST_F(Views, MonthButtonOpensTheMonthItShows) {
+    show(6, 2026, 10, 9);
+    OpenShownMonth(3);  // January 2027, although the pickers say 2026
+    EXPECT_EQ(CalendarView, 1);
+    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 1));
+    EXPECT_EQ(Calendar.yearOnDisplay, 2027);
+    EXPECT_EQ(caption, "Tasmoro: Jan 2027 Calendar");
+}
+
+TEST_F(Views, EndsOfTheCalendarAreReported) {
+    show(12, 9999, 5, 5);
+    dialogs.expect("An error occurred in cmdNext_Click.");
+    ShowNeighbourYear(1);
+    EXPECT_EQ(DisplayedYear, 9999);
+    EXPECT_EQ(caption, "Tasmoro: 9999 Calendar");
+}
+}  // namespace

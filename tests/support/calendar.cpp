@@ -1,0 +1,68 @@
+// A calendar without windows.
+#include "tests/support/calendar.h"
+
+#include "calendar/modCalendar.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
+#include "marks/modCategories.h"
+
+CalendarTest::CalendarTest() {
+    InstallViews();
+    Calendar.startedOn = MakeDate(2026, 11, 22);
+    Shell = {};
+    Shell.openView = [this](int view) {
+        recorders_.clear();
+        std::vector<Canvas*> canvases;
+        for (int i = 0; i < view; ++i) canvases.push_back(&recorders_.emplace_back());
+        return canvases;
+    };
+    Shell.setCaption = [this](const std::string& text) { caption = text; };
+    Shell.enableItem = [this](const char* item, bool on) { enabled[item] = on; };
+    Shell.showInPickers = [this](Date date) { pickers = FormatDate(date, "mmmm d yyyy"); };
+    Shell.dateOfPickers = [this] { return DateOfText(pickers); };
+    Shell.showHolidayLabel = [this](const std::string& text) { holidayLabel = text; };
+    Shell.showTemplateLabel = [this](const std::string& text) { templateLabel = text; };
+    Shell.pressViewButton = [this](int view) { pressed = view; };
+    Shell.captionMonth = [this](int index, const std::string& text) { monthCaptions[index] = text; };
+    Shell.popUpDateOptions = [this] { ++menusOpened; };
+    putCategories();
+}
+
+CalendarTest::~CalendarTest() { Shell = {}; }
+
+void CalendarTest::putCategories() const {
+    folder.put(
+        "Marker Colors.dat",
+        "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
+        "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nEvent:32768\r\nHoliday:16711680\r\n"
+        "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\nVacation:16711935\r\n");
+    ReadMarkerColors();
+}
+
+void CalendarTest::show(int view, int year, int month, int day) const {
+    SelectDate(MakeDate(year, month, day));
+    if (view == 1) Show1MonthCalendar();
+    if (view == 6) Show6MonthCalendar();
+    if (view == 12) Show1YearCalendar();
+}
+
+namespace {
+const ShownMonth& ShownMonthOf(Date date) {
+    for (const ShownMonth& shown : ShownMonths)
+        if (shown.year == YearOf(date) && shown.month == MonthOf(date) - 1) return shown;
+    throw std::logic_error("the month is not on display");
+}
+}  // namespace
+
+bool CalendarTest::click(int year, int month, int day) {
+    const Date date = MakeDate(year, month, day);
+    const Cell cell = CellOf(date);
+    return SelectAt(ShownMonthOf(date), cell.column + 0.5, cell.row + 1.25);
+}
+
+std::string CalendarTest::hoverText(int year, int month, int day) {
+    const Date date = MakeDate(year, month, day);
+    const Cell cell = CellOf(date);
+    return HoverAt(ShownMonthOf(date), cell.column + 0.5, cell.row + 1.25).text;
+}
