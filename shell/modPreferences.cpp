@@ -189,10 +189,7 @@ void ReadPreferences() {
 }
 
 void MakeBackupFolder() {
-    if (FolderExists(DataFolder(), "Backup")) return;
-    std::error_code failure;
-    std::filesystem::create_directory(DataFolder() / "Backup", failure);
-    if (failure) throw Error(PathFileAccess);
+    if (!FolderExists(DataFolder(), "Backup")) MakeFolder(DataPath("Backup"));
 }
 
 /// Changes values, rewrites their lines and saves. A failed save leaves values and lines as they were.

@@ -5,6 +5,7 @@
 
 #include "base/errors.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/disk.h"
 #include "tests/support/folder.h"
 
 namespace {
@@ -137,6 +138,7 @@ TEST_F(CategoriesTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
 }
 
 TEST_F(CategoriesTest, SurviveBeingCutAtEveryByte) {
+    const UnsyncedDisk quick;
     for (std::size_t length = 1; length < Full.size() - 1; ++length) {
         SCOPED_TRACE(length);
         const TemporaryFolder fresh;

@@ -7,6 +7,7 @@
 #include "base/errors.h"
 #include "forms/printer.h"
 #include "tests/support/dialogs.h"
+#include "tests/support/disk.h"
 #include "tests/support/folder.h"
 
 namespace {
@@ -99,6 +100,7 @@ TEST_F(PreferencesTest, ReportFaultsKeepWhatWasReadBeforeAndLoseNothing) {
 }
 
 TEST_F(PreferencesTest, SurviveBeingCutAtEveryByte) {
+    const UnsyncedDisk quick;
     int reports = 0;
     const Dialogs scripted = SetDialogs({[&](const std::string&, Buttons, const std::string& title) {
                                              reports += title == "Program Error";

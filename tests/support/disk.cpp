@@ -1,5 +1,10 @@
-// Disks that fail, by the system's own means.
+// Disks for tests, by the system's own means where they fail.
 #include "tests/support/disk.h"
+
+#include <fstream>
+#include <string_view>
+
+#include "base/diskio.h"
 
 #ifdef __linux__
 #include <sched.h>
@@ -37,3 +42,11 @@ FileSizeLimit::~FileSizeLimit() {
     std::signal(SIGXFSZ, SIG_DFL);
 }
 #endif
+
+UnsyncedDisk::UnsyncedDisk() {
+    using std::filesystem::path;
+    SetDisk({.write = [](const path& file, std::string_view bytes) { std::ofstream(file, std::ios::binary) << bytes; },
+             .append = [](const path& file, std::string_view bytes) { std::ofstream(file, std::ios::app) << bytes; },
+             .makeFolder = [](const path& folder) { std::filesystem::create_directories(folder); }});
+}
+UnsyncedDisk::~UnsyncedDisk() { SetDisk({}); }

@@ -1,4 +1,4 @@
-// Disks that fail: a small one, a read-only one, and one whose files may not grow.
+// Disks for tests: a small one, a read-only one, one whose files may not grow, and a fast one.
 #pragma once
 
 #include <cstdint>
@@ -30,4 +30,13 @@ class FileSizeLimit {
     FileSizeLimit(const FileSizeLimit&) = delete;
     FileSizeLimit& operator=(const FileSizeLimit&) = delete;
     ~FileSizeLimit();
+};
+
+/// While one lives, files are written in place and not synced: for tests that save hundreds of times.
+class UnsyncedDisk {
+  public:
+    UnsyncedDisk();
+    UnsyncedDisk(const UnsyncedDisk&) = delete;
+    UnsyncedDisk& operator=(const UnsyncedDisk&) = delete;
+    ~UnsyncedDisk();
 };

@@ -1,0 +1,252 @@
+// Marks files read, painted and saved: what they hold is never lost, never another year's.
+#include "marks/modMarks.h"
+
+#include <gtest/gtest.h>
+
+#include "calendar/modCalendar.h"
+#include "calendar/modPaint.h"
+#include "forms/recorder.h"
+#include "marks/modCategories.h"
+#include "reminders/modBirthdays.h"
+#include "reminders/modHolidays.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/disk.h"
+#include "tests/support/folder.h"
+
+namespace {
+const std::string File = "2026Marks.dat";
+const std::string NextFile = "2027Marks.dat";
+const std::string Full =
+    "00:01:04:8388608-Team meeting\r\n01:00:02:12632256\r\n01:03:01:255-Flight - gate B:22\r\n"
+    "03:02:01:33023-\xBD day off\r\n11:05:03:16711680";
+
+struct MarksTest : testing::Test {
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+    Recorder canvas;
+
+    MarksTest() { begin(); }
+
+    /// The tables of an empty planner that shows 2026 and reaches into 2027.
+    static void begin() {
+        Calendar.yearOnDisplay = 2026;
+        SpansNextYear = true;
+        SelectDate(MakeDate(2026, 2, 11));
+    }
+    void showMonth(Date date, DayStyle style = DayStyle::Box) {
+        canvas.clear();
+        Paint.style = style;
+        ShownMonths = {{&canvas, YearOf(date), MonthOf(date) - 1, YearOf(date) == 2026 ? ThisYear : NextYear, {}}};
+    }
+    void read(const std::string& bytes) {
+        folder.put(File, bytes);
+        ReadAndDisplayThisYearsMarks();
+    }
+};
+
+int MarkedCells(Year slot) {
+    int count = 0;
+    ForEachCell([&](Cell cell) { count += Marks[slot].flag[cell]; });
+    return count;
+}
+
+Color PaintedColor(Date date) {
+    const Cell cell = CellOf(date);
+    return ShownMonths.front().painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row));
+}
+}  // namespace
+
+TEST_F(MarksTest, SurviveReadingAndSaving) {
+    for (const std::string& file : {Full, std::string("11:06:05:16711680"), std::string("00:05:00:0--:-"),
+                                    std::string("02:06:04:16777215-tab\tand \0 NUL", 34)}) {
+        read(file);
+        EXPECT_TRUE(SaveThisYearsMarks());
+        EXPECT_EQ(folder.get(File), file);
+        folder.put(NextFile, file);
+        ReadAndDisplayNextYearsMarks();
+        EXPECT_TRUE(SaveNextYearsMarks());
+        EXPECT_EQ(folder.get(NextFile), file);
+        EXPECT_EQ(folder.get("2027Marks.bak"), file);
+    }
+    read(Full);
+    EXPECT_TRUE(MarkFlag(1, 3, 1));
+    EXPECT_EQ(MarkColor(1, 3, 1), 255u);
+    EXPECT_EQ(HoverText(1, 3, 1), "Flight - gate B:22");
+    EXPECT_EQ(MarkLines, (std::vector<std::string>{"00:01:04:8388608", "01:00:02:12632256", "01:03:01:255",
+                                                   "03:02:01:33023", "11:05:03:16711680"}));
+    EXPECT_EQ(folder.backups(), "");
+}
+
+TEST_F(MarksTest, LastMarkLeavesNoFileThisYearAndAnEmptyOneNextYear) {
+    read("01:03:01:255");
+    MarkFlag(1, 3, 1) = false;
+    EXPECT_TRUE(SaveThisYearsMarks());
+    EXPECT_FALSE(folder.has(File));
+    folder.put(NextFile, "01:03:01:255");
+    ReadAndDisplayNextYearsMarks();
+    NextMarkFlag(1, 3, 1) = false;
+    EXPECT_TRUE(SaveNextYearsMarks());
+    EXPECT_EQ(folder.get(NextFile), "");
+    EXPECT_EQ(folder.get("2027Marks.bak"), "01:03:01:255");
+}
+
+TEST_F(MarksTest, EachYearKeepsToItsOwnTablesAndFile) {
+    read(Full);
+    Calendar.yearOnDisplay = 2027;
+    EXPECT_TRUE(SaveThisYearsMarks());
+    EXPECT_EQ(folder.get(File), Full) << "the tables are still those of 2026";
+    EXPECT_FALSE(folder.has(NextFile));
+    ReadAndDisplayThisYearsMarks();
+    EXPECT_EQ(MarkedCells(ThisYear), 0);
+    EXPECT_EQ(MarkColor(1, 3, 1), 0u);
+    EXPECT_EQ(HoverText(1, 3, 1), "");
+    ClearDateHolders();
+    dialogs.expect("SaveThisYearsMarks");
+    EXPECT_FALSE(SaveThisYearsMarks()) << "tables that were emptied may not be saved";
+    EXPECT_EQ(folder.get(File), Full);
+}
+
+TEST_F(MarksTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
+    struct Row {
+        const char* name;
+        std::string file;
+        const char* error;
+        int marks;  // in effect
+    };
+    const std::string start = "00:01:04:255\r\n";
+    for (const Row& row : std::vector<Row>{{"month outside", start + "12:01:01:255\r\n01:00:02:255", "Number: 9", 1},
+                                           {"column outside", start + "01:07:01:255\r\n01:00:02:255", "Number: 9", 1},
+                                           {"row outside", start + "01:01:06:255", "Number: 9", 1},
+                                           {"negative row", start + "01:01:-1:255", "Number: 9", 1},
+                                           {"no number", start + "01:xx:01:255", "Number: 13", 1},
+                                           {"too short", start + "01:01", "Number: 13", 1},
+                                           {"no color", start + "01:01:01:-text", "Number: 13", 1},
+                                           {"color too large", start + "01:01:01:16777216", "Number: 6", 1},
+                                           {"blank line", start + "\r\n01:01:01:255", "Number: 13", 1},
+                                           {"NUL bytes", start + std::string(40, '\0'), "Number: 13", 1},
+                                           {"twice", Full + Full, "Number: 13", 4},
+                                           {"same cell twice", start + "00:01:04:128-later", "", 1},
+                                           {"blanks", start + " 1: 1: 1: 255", "", 2}}) {
+        for (const Year slot : {ThisYear, NextYear}) {
+            SCOPED_TRACE(row.name);
+            const TemporaryFolder fresh;
+            begin();
+            const std::string name = slot == ThisYear ? File : NextFile;
+            fresh.put(name, row.file);
+            if (*row.error != '\0') dialogs.expect(slot == ThisYear ? "ReadAndDisplayThis" : "ReadAndDisplayNext");
+            ReadAndDisplayMarks(slot);
+            if (*row.error != '\0') {
+                EXPECT_NE(dialogs.shown().back().text.find(row.error), std::string::npos);
+            }
+            EXPECT_EQ(MarkedCells(slot), row.marks);
+            Marks[slot].flag(7, 3, 3) = true;
+            dialogs.expect("Backup");
+            EXPECT_TRUE(SaveMarks(slot));
+            EXPECT_EQ(fresh.backups(), row.file);
+            dialogs.verify();
+        }
+    }
+}
+
+TEST_F(MarksTest, SurviveBeingCutAtEveryByte) {
+    const UnsyncedDisk quick;
+    for (std::size_t length = 0; length < Full.size(); ++length) {
+        SCOPED_TRACE(length);
+        const TemporaryFolder fresh;
+        begin();
+        std::string cut = Full.substr(0, length);
+        fresh.put(File, cut);
+        const std::size_t inLine = length - (cut.rfind('\n') == std::string::npos ? 0 : cut.rfind('\n') + 1);
+        const bool faulty = inLine > 0 && inLine < 10;
+        if (faulty) dialogs.expect("ReadAndDisplayThisYearsMarks");
+        ReadAndDisplayThisYearsMarks();
+        MarkFlag(11, 6, 5) = true;
+        const bool copied = faulty || (inLine > 10 && cut.find('-', length - inLine) == length - 1);
+        if (copied) dialogs.expect("Backup");
+        EXPECT_TRUE(SaveThisYearsMarks());
+        if (cut.ends_with('\r')) cut.pop_back();
+        EXPECT_TRUE(copied ? fresh.backups() == cut : fresh.get(File).starts_with(cut)) << fresh.get(File);
+        dialogs.verify();
+    }
+}
+
+TEST_F(MarksTest, FileThatCannotBeReadIsNotOverwritten) {
+    std::filesystem::create_directories(folder.path() / File / "in the way");
+    std::filesystem::create_directories(folder.path() / NextFile / "in the way");
+    ReadAndDisplayThisYearsMarks();
+    ReadAndDisplayNextYearsMarks();
+    MarkFlag(1, 1, 1) = NextMarkFlag(1, 1, 1) = true;
+    dialogs.expect("SaveThisYearsMarks");
+    EXPECT_FALSE(SaveThisYearsMarks());
+    dialogs.expect("SaveNextYearsMarks");
+    EXPECT_FALSE(SaveNextYearsMarks());
+    EXPECT_TRUE(std::filesystem::exists(folder.path() / NextFile / "in the way"));
+}
+
+TEST_F(MarksTest, ArePaintedInTheirColorOrInWhatAHiddenCategoryLeavesToSee) {
+    folder.put("Holidays/2026Holidays.dat", "02/11/26:H\r\n02/12/26:H\r\n");
+    folder.put("Birthdays.dat", "02/12:00:Ann:****\r\n02/13:00:Bob:****\r\n");
+    const std::string file = "01:03:01:255-x\r\n01:04:01:255\r\n01:05:01:255\r\n01:06:01:255";
+    MarkerColor = {1, 2, 3, 4, 0x800080, 6, 7, 8, 0xFF0000, 0x0000FF};
+    AssignThisYearsHolidays();
+    ReadBirthdays();
+    ReadAndMarkBirthdays();
+    const auto colors = [&] {
+        showMonth(MakeDate(2026, 2, 1));
+        read(file);
+        return std::vector<Color>{PaintedColor(MakeDate(2026, 2, 11)), PaintedColor(MakeDate(2026, 2, 12)),
+                                  PaintedColor(MakeDate(2026, 2, 13)), PaintedColor(MakeDate(2026, 2, 14))};
+    };
+    EXPECT_EQ(colors(), (std::vector<Color>{0xFF, 0xFF, 0xFF, 0xFF}));
+    MarkerHidden[9] = true;
+    EXPECT_EQ(colors(), (std::vector<Color>{0xFF0000, 0xFF0000, 0x800080, 0}));
+    MarkerHidden[HolidayCategory] = true;
+    EXPECT_EQ(colors(), (std::vector<Color>{0, 0x800080, 0x800080, 0}));
+    EXPECT_TRUE(SaveThisYearsMarks());
+    EXPECT_EQ(folder.get(File), file) << "hiding changes nothing that is saved";
+}
+
+TEST_F(MarksTest, OnlyCellsOfAnotherColorArePaintedAgain) {
+    showMonth(MakeDate(2026, 2, 1));
+    read(Full);
+    EXPECT_EQ(canvas.containing("fill").size(), 2u) << "the two marks of February";
+    EXPECT_TRUE(canvas.has("fill 3.1 1.85 3.9 2.65 0000FF"));
+    MarkColor(1, 3, 1) = 0x00FF00;
+    EXPECT_TRUE(SaveAndReadMarks(ThisYear));
+    EXPECT_EQ(canvas.containing("fill").size(), 3u);
+    EXPECT_TRUE(canvas.has("fill 3.1 1.85 3.9 2.65 00FF00"));
+    EXPECT_EQ(canvas.containing("'11'").back().substr(0, 5), "text ");
+}
+
+TEST_F(MarksTest, NextYearsMarksArePaintedOnNextYearsMonthsOnly) {
+    folder.put(NextFile, "01:03:01:255");
+    showMonth(MakeDate(2026, 2, 1));
+    ReadAndDisplayNextYearsMarks();
+    EXPECT_TRUE(canvas.containing("fill").empty());
+    showMonth(MakeDate(2027, 2, 1));
+    ReadAndDisplayNextYearsMarks();
+    EXPECT_EQ(canvas.containing("'10'").size(), 1u);
+}
+
+TEST_F(MarksTest, SelectedDayIsRepaintedAtOnce) {
+    read("01:03:01:255");
+    for (const auto& [procedure, style] : {std::pair{&ReDrawDateMarks, DayStyle::Box},
+                                           {ReDraw6MonthDateMarks, DayStyle::Box},
+                                           {ReDraw1MonthDateMarks, DayStyle::Number}}) {
+        showMonth(MakeDate(2026, 2, 1), style);
+        procedure();
+        EXPECT_EQ(PaintedColor(SelectedDate), 255u);
+        MarkFlag(1, 3, 1) = false;
+        procedure();
+        EXPECT_EQ(PaintedColor(SelectedDate), 0u);
+        MarkFlag(1, 3, 1) = true;
+    }
+}
+
+TEST_F(MarksTest, MarkOfACellWithoutADateIsKept) {
+    showMonth(MakeDate(2026, 2, 1));
+    read("01:06:05:255-lost in the grid");
+    EXPECT_TRUE(canvas.containing("fill").empty());
+    EXPECT_TRUE(SaveThisYearsMarks());
+    EXPECT_EQ(folder.get(File), "01:06:05:255-lost in the grid");
+}
