@@ -13,6 +13,10 @@ if(MSVC)
 else()
   target_compile_options(tasmoro_options INTERFACE -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor
                                                    -Woverloaded-virtual -Werror)
+  if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+    # Optimising, this compiler sees overlaps and overflows in joined strings that cannot be there.
+    target_compile_options(tasmoro_options INTERFACE -Wno-restrict -Wno-stringop-overflow -Wno-array-bounds)
+  endif()
 endif()
 if(TASMORO_SANITIZE)
   target_compile_options(tasmoro_options INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all

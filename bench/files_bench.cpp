@@ -1,0 +1,80 @@
+// Whole files against what the system and the toolkit offer, with 1 MB files in /var/tmp (a real disk, not memory).
+#include <fcntl.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QStringList>
+#include <QTextStream>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+#include "base/files.h"
+#include "bench/pairs.h"
+
+namespace {
+const std::string Megabyte = [] {
+    std::string bytes;
+    while (bytes.size() < (1u << 20)) bytes += "03/04/26:020300:Dentist at nine, bring the card and the old X-rays\r\n";
+    bytes.resize((1u << 20) - 2);
+    return bytes + "\r\n";
+}();
+
+/// A folder of its own, removed at the end.
+class Folder {
+  public:
+    Folder() { std::filesystem::create_directories(path); }
+    Folder(const Folder&) = delete;
+    Folder& operator=(const Folder&) = delete;
+    ~Folder() { std::filesystem::remove_all(path); }
+    const Path path = Path("/var/tmp") / ("tasmoro-bench-" + std::to_string(getpid()));
+};
+
+void Check(bool good) {
+    if (good) return;
+    std::perror("files_bench");
+    std::exit(1);
+}
+
+/// The least that makes a file old or new, whole: write, fsync, rename, fsync of the folder. Nothing is checked twice.
+void RawSave(const Path& folder, const Path& temporary, const Path& file) {
+    const int descriptor = open(temporary.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    Check(write(descriptor, Megabyte.data(), Megabyte.size()) == static_cast<ssize_t>(Megabyte.size()));
+    Check(fsync(descriptor) == 0 && close(descriptor) == 0);
+    Check(rename(temporary.c_str(), file.c_str()) == 0);
+    const int directory = open(folder.c_str(), O_RDONLY | O_DIRECTORY);
+    Check(fsync(directory) == 0 && close(directory) == 0);
+}
+
+void WriteOneMegabyte(benchmark::State& state) {
+    const Folder folder;
+    const Path temporary = folder.path / "raw.tmp", raw = folder.path / "raw.dat", whole = folder.path / "whole.dat";
+    RunPairs(
+        state, 101, 1.15, [&] { WriteWholeFile(whole, Megabyte); }, [&] { RawSave(folder.path, temporary, raw); });
+}
+BENCHMARK(WriteOneMegabyte)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+void ReadOneMegabyteIntoLines(benchmark::State& state) {
+    const Folder folder;
+    const Path path = folder.path / "lines.dat";
+    WriteWholeFile(path, Megabyte);
+    const QString name = QString::fromStdString(path.string());
+    const auto ours = [&] {
+        std::vector<std::string> lines;
+        ReadDataLines(path, [&](std::string_view line, int) { lines.emplace_back(line); });
+        benchmark::DoNotOptimize(lines.data());
+    };
+    const auto theirs = [&] {
+        QStringList lines;
+        QFile file(name);
+        Check(file.open(QIODevice::ReadOnly));
+        QTextStream stream(&file);
+        stream.setEncoding(QStringConverter::Latin1);
+        while (!stream.atEnd()) lines.append(stream.readLine());
+        benchmark::DoNotOptimize(lines.data());
+    };
+    RunPairs(state, 101, 1.0 / 3, ours, theirs);
+}
+BENCHMARK(ReadOneMegabyteIntoLines)->Iterations(1)->Unit(benchmark::kMillisecond);
+}  // namespace
