@@ -2,6 +2,7 @@
 #include "base/files.h"
 
 #include <unordered_map>
+#include <utility>
 
 #include "base/clock.h"
 #include "base/dialogs.h"
@@ -17,15 +18,20 @@ namespace fs = std::filesystem;
 
 std::string ReadWholeFile(const Path& path) { return Disk().read(path); }
 
+namespace {
+/// Takes the first line off the front, with its end.
+std::string_view TakeLine(std::string_view& bytes) {
+    const auto end = bytes.find('\n');
+    std::string_view line = bytes.substr(0, end);
+    bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
+    if (line.ends_with('\r')) line.remove_suffix(1);
+    return line;
+}
+}  // namespace
+
 std::vector<std::string_view> LinesOf(std::string_view bytes) {
     std::vector<std::string_view> lines;
-    while (!bytes.empty()) {
-        const auto end = bytes.find('\n');
-        std::string_view line = bytes.substr(0, end);
-        bytes.remove_prefix(end == std::string_view::npos ? bytes.size() : end + 1);
-        if (line.ends_with('\r')) line.remove_suffix(1);
-        lines.push_back(line);
-    }
+    while (!bytes.empty()) lines.push_back(TakeLine(bytes));
     return lines;
 }
 
@@ -40,16 +46,11 @@ void MakeFolder(const Path& folder) { Disk().makeFolder(folder); }
 namespace {
 Path Folder;
 
-/// What the program knows of a file: its bytes as last fully read or written.
-struct KnownFile {
-    std::size_t size = 0;
-    std::size_t hash = 0;
-    bool operator==(const KnownFile&) const = default;
-};
-std::unordered_map<std::string, KnownFile> KnownFiles;
+/// The bytes of each file as last fully read or written. All of them, not a sum: what a save may destroy is decided
+/// here.
+std::unordered_map<std::string, std::string> KnownFiles;
 const ClearedAtStart ClearKnownFiles([] { KnownFiles.clear(); });
 
-KnownFile KnownOf(std::string_view bytes) { return {bytes.size(), std::hash<std::string_view>()(bytes)}; }
 std::string KeyOf(const Path& path) { return path.lexically_normal().string(); }
 }  // namespace
 
@@ -69,14 +70,14 @@ Path PathInFolder(const Path& folder, std::string_view name) {
 
 void ReadDataLines(const Path& path, const std::function<void(std::string_view, int)>& take) {
     MarkNotFullyRead(path);
-    const std::string bytes = ReadWholeFile(path);
+    std::string bytes = ReadWholeFile(path);
     int number = 0;
-    for (const std::string_view line : LinesOf(bytes)) take(line, ++number);
-    MarkFullyRead(path, bytes);
+    for (std::string_view rest = bytes; !rest.empty();) take(TakeLine(rest), ++number);
+    KnownFiles[KeyOf(path)] = std::move(bytes);
 }
 
 void MarkNotFullyRead(const Path& path) { KnownFiles.erase(KeyOf(path)); }
-void MarkFullyRead(const Path& path, std::string_view bytes) { KnownFiles[KeyOf(path)] = KnownOf(bytes); }
+void MarkFullyRead(const Path& path, std::string_view bytes) { KnownFiles[KeyOf(path)] = bytes; }
 
 namespace {
 /// A name in the Backup folder that no earlier copy has.
@@ -121,7 +122,7 @@ std::string CopiedIfUnknown(const Path& path, std::string_view replacement = {})
         const std::string bytes = ReadWholeFile(path);
         if (bytes.empty() || bytes == replacement) return {};
         const auto known = KnownFiles.find(KeyOf(path));
-        if (known != KnownFiles.end() && known->second == KnownOf(bytes)) return {};
+        if (known != KnownFiles.end() && known->second == bytes) return {};
         const std::string told = CopyBytesToBackup(path, bytes);
         MarkFullyRead(path, bytes);
         return told;
@@ -161,9 +162,9 @@ std::string DeleteDataFile(const Path& path) {
 std::string RenameDataFile(const Path& from, const Path& to) {
     return Guarded(to, {}, [&] {
         RenameFile(from, to);
-        const auto known = KnownFiles.extract(KeyOf(from));
+        auto known = KnownFiles.extract(KeyOf(from));
         MarkNotFullyRead(to);
-        if (known) KnownFiles[KeyOf(to)] = known.mapped();
+        if (known) KnownFiles[KeyOf(to)] = std::move(known.mapped());
     });
 }
 
