@@ -18,12 +18,6 @@ constexpr double HeaderHeight = 0.75;
 
 void ForgetClickedDate() { Calendar.typedIn = false; }
 
-void EnableMarkItems(Year slot, Cell cell) {
-    const bool marked = Marks[slot].flag[cell];
-    Tell(Shell.enableItem, "mnuOptDateQuickMark", !marked);
-    Tell(Shell.enableItem, "mnuOptDateClearMark", marked);
-}
-
 std::string HolidayLabel(Year slot, Cell cell) {
     const auto holiday = HolidayOfCell(slot, cell);
     return holiday ? "Holiday = " + *holiday : "No Holiday Assigned";
@@ -81,6 +75,12 @@ Color PaintedAt(const ShownMonth& shown, Cell cell) {
     return shown.painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row));
 }
 }  // namespace
+
+void EnableMarkItems(Year slot, Cell cell) {
+    const bool marked = Marks[slot].flag[cell];
+    Tell(Shell.enableItem, "mnuOptDateQuickMark", !marked);
+    Tell(Shell.enableItem, "mnuOptDateClearMark", marked);
+}
 
 Date DateAt(const ShownMonth& shown, Cell cell) { return DateOfCell(shown.year, cell); }
 

@@ -10,6 +10,9 @@
 /// day.
 bool SelectAt(const ShownMonth& shown, double x, double y);
 
+/// Enables of "Quick Mark" and "Clear Mark" the one that the cell calls for: it carries a mark or does not.
+void EnableMarkItems(Year slot, Cell cell);
+
 /// What the pointer finds at a point.
 struct Hover {
     Cell cell;

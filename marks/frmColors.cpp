@@ -11,7 +11,7 @@
 #include <QSignalBlocker>
 
 #include "base/dialogs.h"
-#include "calendar/modCalendar.h"
+#include "calendar/modViews.h"
 #include "forms/qt/canvas.h"
 #include "forms/qt/text.h"
 
@@ -253,7 +253,7 @@ void frmColors::cmdSave_Click() {
     }
     if (!SaveEditedLabels(edited)) return;
     leaving_ = true;
-    if (RedrawForDate) RedrawForDate();
+    RedrawCalendar();
     close();
 }
 

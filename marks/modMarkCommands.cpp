@@ -5,6 +5,8 @@
 
 #include "base/dialogs.h"
 #include "calendar/modCalendar.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
 #include "calendar/modViews.h"
 #include "marks/modCategories.h"
 #include "marks/modHoverText.h"
@@ -34,7 +36,10 @@ void SetMark(Year slot, int category) {
 bool MarkAndSave(Year slot, int category) {
     SetMark(slot, category);
     RepaintSelectedCell();
-    return SaveAndReadMarks(slot);
+    const bool saved = SaveAndReadMarks(slot);
+    Tell(Shell.showDrawn);
+    EnableMarkItems(slot, CellOf(SelectedDate));
+    return saved;
 }
 
 /// Marks the day in memory and opens the manager whose entries it takes to keep such a mark.
@@ -60,6 +65,7 @@ void ClearMark(Year slot) {
     }
     KeepHoverText(SelectedDate, marks.hoverText[cell]);
     RedrawCalendar();
+    EnableMarkItems(slot, cell);
 }
 
 /// Tells which manager takes a day's colour away that is no mark.

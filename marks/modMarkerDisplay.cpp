@@ -2,6 +2,8 @@
 #include "marks/modMarkerDisplay.h"
 
 #include "calendar/modCalendar.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
 #include "marks/modCategories.h"
 #include "marks/modMarks.h"
 #include "reminders/modBirthdays.h"
@@ -19,7 +21,7 @@ void ShowAll(bool shown) {
     MarkerHidden.fill(!shown);
     TodayShown = shown;
     ShowCategories();
-    if (RedrawForDate) RedrawForDate();
+    RedrawCalendar();
 }
 }  // namespace
 
@@ -29,9 +31,10 @@ void ShowCategory(int category, bool shown) {
     if (CalendarView == 0) return;  // the main window is still loading
     RepaintDays(ThisYear);
     if (SpansNextYear) RepaintDays(NextYear);
+    Tell(Shell.showDrawn);
     if (category == BirthdayCategory || category == HolidayCategory || category == TodaysDateCategory) {
         TodayShown = shown;
-        if (RedrawForDate) RedrawForDate();
+        RedrawCalendar();
     }
 }
 

@@ -7,6 +7,7 @@
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "marks/modCategories.h"
+#include "marks/modIcons.h"
 #include "reminders/modBirthdays.h"
 #include "reminders/modHolidays.h"
 #include "shell/modErrors.h"
@@ -212,6 +213,7 @@ void ReDraw6MonthDateMarks() { Reporting("ReDraw6MonthDateMarks", RepaintSelecte
 void ReDrawDateMarks() { Reporting("ReDrawDateMarks", RepaintSelectedCell); }
 
 std::optional<Year> SlotOfSelectedDay() {
+    if (TemplateMode) return std::nullopt;
     // A click on a cell without a date leaves the selected date where it was: the two do not agree then.
     if (!SelectedCell.valid() || SelectedCell != CellOf(SelectedDate)) return std::nullopt;
     if (SelectedInNextYear && !LiesInNextYear(SelectedDate)) return std::nullopt;

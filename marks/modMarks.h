@@ -87,5 +87,6 @@ bool ShowsBirthday(Year slot, Cell cell);
 
 // -- The selected day ------------------------------------------------------------------------------------------------
 
-/// The slot that holds the selected day, its marks read; nothing where no cell, or a cell without a date, is selected.
+/// The slot that holds the selected day, its marks read; nothing where no cell, a cell without a date, or a day of the
+/// icon template is selected.
 std::optional<Year> SlotOfSelectedDay();

@@ -1,0 +1,205 @@
+// Marking days in the views, and taking marks away.
+#include "marks/modMarkCommands.h"
+
+#include "calendar/modCalendar.h"
+#include "calendar/modPaint.h"
+#include "calendar/modSelection.h"
+#include "marks/modCategories.h"
+#include "marks/modMarkerDisplay.h"
+#include "marks/modMarks.h"
+#include "reminders/modBirthdays.h"
+#include "tests/support/calendar.h"
+
+namespace {
+constexpr int MeetingItem = 9;
+constexpr int TravelItem = 10;
+
+struct MarkCommands : CalendarTest {
+    ~MarkCommands() override { OpenBirthdayManager = OpenHolidayManager = {}; }
+
+    std::string file(int year = 2026) const { return folder.get(std::to_string(year) + "Marks.dat"); }
+    void markAs(int item, const std::string& hoverText) {
+        dialogs.expectInput("Optional Hover Text", hoverText);
+        MarkSelectedDateAs(item);
+    }
+    static Color painted(int year, int month, int day) {
+        const Cell cell = CellOf(MakeDate(year, month, day));
+        for (const ShownMonth& shown : ShownMonths)
+            if (shown.year == year && shown.month == month - 1)
+                return shown.painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row));
+        return 0xBADBAD;
+    }
+};
+}  // namespace
+
+TEST_F(MarkCommands, MarkIsPaintedSavedAndGivenItsText) {
+    for (const int view : {1, 6, 12}) {
+        SCOPED_TRACE(view);
+        folder.put("2026Marks.dat", "");
+        show(view, 2026, 2, 1);
+        EXPECT_TRUE(click(2026, 2, 11));
+        markAs(MeetingItem, "Budget - 9:30");
+        EXPECT_EQ(file(), "01:03:01:255-Budget - 9:30");
+        EXPECT_EQ(painted(2026, 2, 11), MeetingColor);
+        EXPECT_EQ(hoverText(2026, 2, 11), "Meeting: Budget - 9:30");
+        EXPECT_TRUE(enabled["mnuOptDateClearMark"] && !enabled["mnuOptDateQuickMark"]);
+        click(2026, 2, 12);
+        QuickMarkSelectedDate();
+        EXPECT_EQ(file(), "01:03:01:255-Budget - 9:30\r\n01:04:01:8421376");
+        EXPECT_EQ(painted(2026, 2, 12), QuickMarksColor);
+        markAs(TravelItem, "");
+        EXPECT_EQ(file(), "01:03:01:255-Budget - 9:30\r\n01:04:01:8388608");
+    }
+}
+
+TEST_F(MarkCommands, ClearedMarkIsGoneAndItsTextReturnsWithTheNextMark) {
+    show(6, 2026, 2, 1);
+    click(2026, 5, 5);
+    markAs(MeetingItem, "typed with care");
+    ClearMarkFromSelectedDate();
+    EXPECT_EQ(file(), "(none)");
+    EXPECT_EQ(painted(2026, 5, 5), Black) << "a plain number again";
+    EXPECT_TRUE(enabled["mnuOptDateQuickMark"] && !enabled["mnuOptDateClearMark"]);
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(), "04:02:01:8421376-typed with care");
+}
+
+TEST_F(MarkCommands, DayOfNextYearGoesToItsOwnFile) {
+    folder.put("2026Marks.dat", "01:03:01:255");
+    show(6, 2026, 9, 1);
+    click(2027, 1, 6);
+    markAs(MeetingItem, "far");
+    EXPECT_EQ(file(2027), "00:03:01:255-far");
+    EXPECT_EQ(file(2026), "01:03:01:255");
+    EXPECT_EQ(painted(2027, 1, 6), MeetingColor);
+    ClearMarkFromSelectedDate();
+    EXPECT_EQ(file(2027), "");
+    EXPECT_EQ(folder.get("2027Marks.bak"), "00:03:01:255-far");
+    EXPECT_EQ(painted(2026, 9, 1), Black) << "the months on display stay";
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(2027), "00:03:01:8421376-far") << "the selected day is still the one of next year";
+}
+
+TEST_F(MarkCommands, DayOfAYearThatIsNotLoadedLoadsIt) {
+    folder.put("2026Marks.dat", "01:03:01:255");
+    folder.put("2030Marks.dat", "00:02:00:255-kept");
+    show(12, 2026, 2, 1);
+    SelectDate(MakeDate(2030, 1, 2));
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(2030), "00:02:00:255-kept\r\n00:03:00:8421376");
+    EXPECT_EQ(file(2026), "01:03:01:255");
+    EXPECT_EQ(painted(2030, 1, 2), QuickMarksColor);
+}
+
+TEST_F(MarkCommands, EmptyCellsTakeNoMark) {
+    show(6, 2026, 9, 1);
+    click(2026, 9, 15);
+    const auto clickEmpty = [](const ShownMonth& shown) { return SelectAt(shown, 6.5, 6.2); };
+    for (const std::size_t month : {0u, 4u}) {
+        EXPECT_FALSE(clickEmpty(ShownMonths.at(month)));
+        MarkSelectedDateAs(MeetingItem);
+        QuickMarkSelectedDate();
+        ClearMarkFromSelectedDate();
+    }
+    SelectedCell = {};
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(2026) + file(2027), "(none)(none)");
+}
+
+TEST_F(MarkCommands, BirthdayAndHolidayOpenTheirManagersAndSaveNothing) {
+    show(12, 2026, 2, 1);
+    click(2026, 2, 11);
+    std::string opened;
+    OpenBirthdayManager = [&](Date date) { opened += "birthday " + ShortDate(date); };
+    OpenHolidayManager = [&](Date date) { opened += " holiday " + ShortDate(date); };
+    MarkSelectedDateAs(BirthdayCategory);
+    MarkSelectedDateAs(HolidayCategory);
+    EXPECT_EQ(opened, "birthday 2/11/2026 holiday 2/11/2026");
+    EXPECT_EQ(file(), "(none)");
+    EXPECT_TRUE(MarkFlag(1, 3, 1));
+    MarkerCaption[BirthdayCategory] = "Name day";
+    markAs(BirthdayCategory, "");
+    EXPECT_EQ(file(), "01:03:01:8388736");
+}
+
+TEST_F(MarkCommands, BirthdaysAndHolidaysAreNotCleared) {
+    folder.put("Holidays/2026Holidays.dat", "02/11/26:Valentine\r\n02/12/26:Other\r\n");
+    folder.put("Birthdays.dat", "02/12:00:Ann:****\r\n");
+    ReadBirthdays();
+    show(12, 2026, 2, 1);
+    click(2026, 2, 11);
+    dialogs.expect("Use the Holiday Manager to remove this mark.");
+    ClearMarkFromSelectedDate();
+    click(2026, 2, 12);
+    dialogs.expect("Use the Birthday Manager to remove this mark.");
+    ClearMarkFromSelectedDate();
+    ShowCategory(BirthdayCategory, false);
+    ShowCategory(HolidayCategory, false);
+    ClearMarkFromSelectedDate();
+    EXPECT_EQ(file(), "(none)");
+}
+
+TEST_F(MarkCommands, YearsMarksAreDeletedAfterAQuestion) {
+    folder.put("2026Marks.dat", "01:03:01:255-text");
+    folder.put("2027Marks.dat", "01:03:01:255");
+    show(12, 2026, 2, 1);
+    dialogs.expect("Are you sure you want to clear all this year's marks? Note: Holidays and Birthdays are excluded.",
+                   Answer::No);
+    DeleteThisYearsMarks();
+    EXPECT_EQ(painted(2026, 2, 11), MeetingColor);
+    dialogs.expect("Preparing to clear the yearly marks", Answer::Yes);
+    DeleteThisYearsMarks();
+    EXPECT_EQ(painted(2026, 2, 11), Black);
+    EXPECT_EQ(file(2026), "(none)");
+    EXPECT_EQ(file(2027), "01:03:01:255");
+    click(2026, 2, 11);
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(2026), "01:03:01:8421376-text");
+}
+
+TEST_F(MarkCommands, UnreadLinesAreKeptWhateverTheCommand) {
+    const std::string broken = "01:03:01:255-before\r\nbroken\r\n02:00:00:255-after";
+    const auto commands = {+[] { QuickMarkSelectedDate(); }, +[] { ClearMarkFromSelectedDate(); },
+                           +[] { DeleteThisYearsMarks(); }};
+    int number = 0;
+    for (const auto command : commands) {
+        SCOPED_TRACE(number);
+        const TemporaryFolder fresh;
+        fresh.put("2026Marks.dat", broken);
+        fresh.put("Marker Colors.dat", folder.get("Marker Colors.dat"));
+        ReadMarkerColors();
+        dialogs.expect("ReadAndDisplayThisYearsMarks");
+        show(12, 2026, 2, 1);
+        click(2026, 2, 11);
+        if (number++ == 2) dialogs.expect("Are you sure", Answer::Yes);
+        dialogs.expect("Backup");
+        command();
+        EXPECT_EQ(fresh.backups(), broken);
+        dialogs.verify();
+    }
+}
+
+TEST_F(MarkCommands, HidingACategoryRepaintsItsDaysAndSavesNothing) {
+    folder.put("2026Marks.dat", "01:03:01:255-x");
+    folder.put("Holidays/2026Holidays.dat", "02/11/26:Valentine\r\n");
+    show(12, 2026, 2, 1);
+    ShowCategory(9, false);
+    EXPECT_EQ(painted(2026, 2, 11), HolidayColor);
+    EXPECT_TRUE(TodayShown);
+    ShowCategory(HolidayCategory, false);
+    EXPECT_EQ(painted(2026, 2, 11), Black);
+    EXPECT_FALSE(TodayShown) << "as with every category that has a part of its own";
+    ShowCategory(HolidayCategory, true);
+    ShowCategory(9, true);
+    EXPECT_EQ(painted(2026, 2, 11), MeetingColor);
+    EXPECT_EQ(painted(2026, 11, 22), TodayColor);
+    HideAllMarks();
+    EXPECT_EQ(painted(2026, 11, 22), Black);
+    EXPECT_EQ(painted(2026, 2, 11), Black);
+    click(2026, 2, 12);
+    QuickMarkSelectedDate();
+    EXPECT_EQ(file(), "01:03:01:255-x\r\n01:04:01:8421376");
+    ShowAllMarks();
+    EXPECT_EQ(painted(2026, 2, 12), QuickMarksColor);
+    EXPECT_EQ(std::count(MarkerHidden.begin(), MarkerHidden.end(), true), 0);
+}
