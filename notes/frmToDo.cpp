@@ -14,6 +14,7 @@
 
 namespace {
 constexpr int RowPitch = Pixels(345);
+constexpr int MarkSize = Pixels(300);
 constexpr int LastRow = ToDoRows - 1;
 
 std::size_t At(int row) { return static_cast<std::size_t>(row); }
@@ -70,11 +71,11 @@ void frmToDo::layOut() {
     rows->setVerticalSpacing(0);
     for (int row = 0; row < ToDoRows; ++row) {
         rows->setRowMinimumHeight(row, pitch);
-        rows->addWidget(imgChkBox[At(row)], row, 0);
+        rows->addWidget(imgChkBox[At(row)], row, 0, Qt::AlignCenter);
         rows->addWidget(lbl[At(row)], row, 1);
         rows->addWidget(txt[At(row)], row, 2);
         rows->addWidget(cmdDelete[At(row)], row, 3);
-        imgChkBox[At(row)]->setFixedSize(pitch - 2, pitch - 2);
+        imgChkBox[At(row)]->setFixedSize(MarkSize, MarkSize);
         for (QWidget* control : {static_cast<QWidget*>(txt[At(row)]), static_cast<QWidget*>(cmdDelete[At(row)])})
             control->setFixedHeight(pitch - 1);
     }

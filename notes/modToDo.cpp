@@ -168,17 +168,21 @@ void PrintCheckMark(Canvas& page, double left, double top, const ToDoPlace& plac
     page.line(x(0.4), y(0.8), x(0.8), y(0.2), Black);
 }
 
+/// Prints a text where its control is, halfway up the control as the control itself shows it.
+void PrintInPlace(Canvas& page, const ToDoPlace& place, std::string_view text) {
+    const double left = place.left + Margin;
+    const Font font = FittingFont(page, text, left);
+    page.text(left, place.top + Margin + (place.height - page.textHeight(font)) / 2, text, font, Black);
+}
+
 void PrintRow(Canvas& page, const ToDoSheet& sheet, std::size_t row) {
     const ToDoPlace& mark = sheet.mark[row];
     const double left = mark.left + Margin;
     const double top = mark.top + Margin;
     page.box(left, top, left + mark.width, top + mark.height, Black);
     if (ToDo.done[row]) PrintCheckMark(page, left, top, mark);
-    page.text(sheet.number[row].left + Margin, sheet.number[row].top + Margin, std::to_string(row + 1), RowFont, Black);
-    const std::string& text = ToDo.editedTexts[row];
-    const double textLeft = sheet.text[row].left + Margin;
-    if (!text.empty())
-        page.text(textLeft, sheet.text[row].top + Margin, text, FittingFont(page, text, textLeft), Black);
+    PrintInPlace(page, sheet.number[row], std::to_string(row + 1));
+    if (!ToDo.editedTexts[row].empty()) PrintInPlace(page, sheet.text[row], ToDo.editedTexts[row]);
 }
 }  // namespace
 

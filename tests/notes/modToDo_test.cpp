@@ -159,10 +159,10 @@ TEST(ToDo, PrintsEachControlAtItsPlace) {
     };
     EXPECT_TRUE(has("text 720 720 'Nov 22, 2026 To Do List' Arial 14 bold 000000"));
     EXPECT_TRUE(has("box 840 1665 1080 1905 000000"));
-    EXPECT_TRUE(has("text 1200 1665 '2' Arial 10 000000"));
-    EXPECT_TRUE(has("text 1560 1665 'Water the plants' Arial 10 000000"));
+    EXPECT_TRUE(has("text 1200 1685 '2' Arial 10 000000"));
+    EXPECT_TRUE(has("text 1560 1715 'Water the plants' Arial 10 000000"));
     EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("box"); }), ToDoRows);
     EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("line"); }), 2);
-    EXPECT_TRUE(has("text 1560 2010 '" + std::string(200, 'x') + "' Arial 4.98 000000")) << "fits the page";
+    EXPECT_TRUE(has("text 1560 2110.2 '" + std::string(200, 'x') + "' Arial 4.98 000000")) << "fits the page";
     EXPECT_EQ(calls.back(), "end");
 }
