@@ -7,11 +7,16 @@
 #include "marks/modHoverText.h"
 #include "marks/modMarkCommands.h"
 #include "marks/modMarkerDisplay.h"
+#include "notes/frmHelp.h"
 #include "notes/frmPref.h"
+#include "notes/frmToDo.h"
 #include "shell/frmMain.h"
 #include "shell/modPreferences.h"
 #include "shell/modShortcuts.h"
 #include "shell/modStart.h"
+#include "tools/frmAlarm.h"
+#include "tools/frmDateDiff.h"
+#include "tools/frmNumDays.h"
 
 namespace {
 using Table = std::vector<MenuItem>;
@@ -140,7 +145,7 @@ Table ManageItems() {
         Without("mnuManage", "&Manage", ""),
         With("mnuManageAlerts", "Alerts", "mnuManage", {}),
         With("mnuManageNotes", "Notes", "mnuManage", {}),
-        With("mnuManageToDo", "To Do List", "mnuManage", {}),
+        With("mnuManageToDo", "To Do List", "mnuManage", OpenToDoList),
         With("mnuManageHolidays", "Holidays", "mnuManage", {}),
         With("mnuManageBDays", "Birthdays", "mnuManage", {}),
         With("mnuManageIcons", "Insertable Icons", "mnuManage", {}),
@@ -163,30 +168,30 @@ Table DateFunctionItems() {
         Without("mnuDateFind", "Find a Date", "mnuDFunc"),
         Without("mnuDateDiff", "Get Time Interval Between 2 Dates", "mnuDFunc"),
         Without("mnuDateDiffS", "Using Standard Intervals", "mnuDateDiff"),
-        With("mnuDateDiffSYears", "In Years", "mnuDateDiffS", {}),
-        With("mnuDateDiffSQuarters", "In Quarters", "mnuDateDiffS", {}),
-        With("mnuDateDiffSMonths", "In Months", "mnuDateDiffS", {}),
-        With("mnuDateDiffSWeeks", "In Weeks", "mnuDateDiffS", {}),
-        With("mnuDateDiffSDays", "In Days", "mnuDateDiffS", {}),
-        With("mnuDateDiffSHours", "In Hours", "mnuDateDiffS", {}),
-        With("mnuDateDiffSMinutes", "In Minutes", "mnuDateDiffS", {}),
-        With("mnuDateDiffSSeconds", "In Seconds", "mnuDateDiffS", {}),
+        With("mnuDateDiffSYears", "In Years", "mnuDateDiffS", [] { OpenDateDiff("Years"); }),
+        With("mnuDateDiffSQuarters", "In Quarters", "mnuDateDiffS", [] { OpenDateDiff("Quarters"); }),
+        With("mnuDateDiffSMonths", "In Months", "mnuDateDiffS", [] { OpenDateDiff("Months"); }),
+        With("mnuDateDiffSWeeks", "In Weeks", "mnuDateDiffS", [] { OpenDateDiff("Weeks"); }),
+        With("mnuDateDiffSDays", "In Days", "mnuDateDiffS", [] { OpenDateDiff("Days"); }),
+        With("mnuDateDiffSHours", "In Hours", "mnuDateDiffS", [] { OpenDateDiff("Hours"); }),
+        With("mnuDateDiffSMinutes", "In Minutes", "mnuDateDiffS", [] { OpenDateDiff("Minutes"); }),
+        With("mnuDateDiffSSeconds", "In Seconds", "mnuDateDiffS", [] { OpenDateDiff("Seconds"); }),
         Without("mnuDateDiffC", "Using Calendar Intervals", "mnuDateDiff"),
         Without("mnuDateDiffCYears", "In Calendar Years", "mnuDateDiffC"),
         Without("mnuDateDiffCMonths", "In Calendar Months", "mnuDateDiffC"),
         Without("mnuDateDiffCWeeks", "In Calendar Weeks", "mnuDateDiffC"),
         Without("mnuDFuncOther", "Other Functions", "mnuDFunc"),
-        With("mnuNumOfDays", "# of Specific Weekdays in a Period", "mnuDFuncOther", {}),
+        With("mnuNumOfDays", "# of Specific Weekdays in a Period", "mnuDFuncOther", [] { ShowWindow<frmNumDays>(); }),
     };
 }
 
 Table ToolAndHelpItems() {
     return {
         Without("mnuTools", "&Tools", ""),
-        With("mnuToolsAlarm", "Alarm Clock", "mnuTools", {}),
+        With("mnuToolsAlarm", "Alarm Clock", "mnuTools", OpenAlarm),
         Without("mnuToolsShowTime", "Show Time of Day", "mnuTools"),
         Without("mnuHelp", "&Help", ""),
-        With("mnuHelpContents", "Help Contents", "mnuHelp", {}, QKeySequence(QKeySequence::HelpContents)),
+        With("mnuHelpContents", "Help Contents", "mnuHelp", OpenHelp, QKeySequence(QKeySequence::HelpContents)),
         With("mnuHelpSoftwareVersion", "Get Software Version", "mnuHelp", [] { ShowMessage(SoftwareVersion()); }),
     };
 }

@@ -6,7 +6,7 @@
 #include <QGridLayout>
 #include <QMenuBar>
 #include <QRegularExpressionValidator>
-#include <QSignalBlocker>
+#include <algorithm>
 
 #include "base/clock.h"
 #include "base/dialogs.h"
@@ -15,6 +15,8 @@
 
 namespace {
 constexpr int ButtonsInRow = 6;
+constexpr double UsualWidth = 480;  // logical pixels
+constexpr double UsualHeight = 260;
 const QString Prompt = QStringLiteral("Click on the Hour, Minute and AM or PM to set the alarm.");
 const QString StartCaption = QStringLiteral("Start");
 const QString ResetCaption = QStringLiteral("Reset");
@@ -121,8 +123,9 @@ void frmAlarm::layOut() {
         made->setSpacing(4);
         for (int i = 0; i < 12; ++i) {
             QPushButton* button = buttons[static_cast<std::size_t>(i)];
-            button->setMinimumWidth(46);
-            button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+            // Their size follows the window and their font follows their size, never the other way round.
+            button->setMinimumSize(46, button->sizeHint().height());
+            button->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
             made->addWidget(button, i / ButtonsInRow, i % ButtonsInRow);
         }
         return made;
@@ -151,6 +154,17 @@ void frmAlarm::layOut() {
     all->addWidget(lblAlarm);
     all->addLayout(end);
     cmdStart->hide();
+    resize(static_cast<int>(UsualWidth), static_cast<int>(UsualHeight));
+}
+
+/// Large buttons carry large numbers.
+void frmAlarm::resizeEvent(QResizeEvent* event) {
+    Window::resizeEvent(event);
+    const double growth = std::min(width() / UsualWidth, height() / UsualHeight);
+    QFont numbers = font();
+    numbers.setPointSizeF(numbers.pointSizeF() * std::clamp(growth, 1.0, 3.0));
+    for (const auto* buttons : {&cmdHour, &cmdMinute})
+        for (QPushButton* button : *buttons) button->setFont(numbers);
 }
 
 // -- Choosing the time ----------------------------------------------------------------------------------------------

@@ -35,6 +35,9 @@ class frmAlarm : public Window {
     void Timer1_Timer();
     void Timer2_Timer();
 
+  protected:
+    void resizeEvent(QResizeEvent* event) override;
+
   private:
     void buildMenus();
     void makeButtons();

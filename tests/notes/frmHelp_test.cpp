@@ -4,9 +4,14 @@
 #include <QApplication>
 #include <QTest>
 
+#include "forms/qt/text.h"
+#include "marks/frmColors.h"
 #include "notes/frmHelpPanel.h"
+#include "notes/frmToDo.h"
+#include "shell/frmMain.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
+#include "tools/frmAlarm.h"
 
 namespace {
 struct HelpWindow : testing::Test {
@@ -63,4 +68,26 @@ TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
     }
     dialogs.expect("null search");
     window->item(QStringLiteral("mnuHelp"))->trigger();
+}
+
+TEST_F(HelpWindow, ExplainsEveryMenuCommand) {
+    const Path data = TASMORO_DATA;
+    read(ReadWholeFile(data / "Help_Topics.txt"));
+    folder.put("Marker Colors.dat", ReadWholeFile(data / "Marker Colors.dat"));
+    QString all;
+    for (const auto& text : HelpTexts) all += FromText(text);
+    const std::vector<QWidget*> windows{LoadedWindow<frmMain>(), LoadedWindow<frmColors>(), LoadedWindow<frmToDo>(),
+                                        LoadedWindow<frmHelp>(), LoadedWindow<frmAlarm>()};
+    int commands = 0;
+    for (const QWidget* window : windows) {
+        for (const QAction* item : window->findChildren<QAction*>()) {
+            if (!item->objectName().startsWith(QStringLiteral("mnu")) || item->menu() != nullptr) continue;
+            const bool category = item->objectName().contains(QLatin1Char('('));
+            const QString caption = WithoutMnemonic(item->text());
+            const QString sought = category ? caption : QLatin1Char('"') + caption + QLatin1Char('"');
+            EXPECT_TRUE(all.contains(sought)) << "no topic explains " << caption.toStdString();
+            ++commands;
+        }
+    }
+    EXPECT_GT(commands, 90);
 }

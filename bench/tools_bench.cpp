@@ -1,0 +1,78 @@
+// Searching the help and counting weekdays, each against the plain way of doing it.
+#include <QApplication>
+#include <string>
+#include <vector>
+
+#include "base/clock.h"
+#include "base/dialogs.h"
+#include "base/text.h"
+#include "bench/pairs.h"
+#include "notes/modHelp.h"
+#include "tools/frmNumDays.h"
+
+namespace {
+constexpr std::size_t HelpBytes = 10 << 20;
+
+/// Ten megabytes of help in topics of some 10 kB, as people write: words, capitals, line breaks.
+void FillHelp() {
+    HelpTopics = {};
+    std::string text;
+    while (text.size() < 10000)
+        text +=
+            "Click the Day with the right mouse button and choose \"Mark Selected Date as...\", then the Category; "
+            "the day takes its colour.\r\n\r\nPress Escape to come back to the year. ";
+    for (std::size_t bytes = 0; bytes < HelpBytes; bytes += text.size()) {
+        HelpTopics.titles.push_back("Topic");
+        HelpTopics.texts.push_back(text);
+    }
+}
+
+/// Makes a copy of each topic in capital letters and looks for the phrase in it.
+bool FoundInCopies(const std::string& phrase) {
+    const std::string capitals = UpperCase(phrase);
+    bool found = false;
+    for (const auto& text : HelpTexts) found = found || UpperCase(text).find(capitals) != std::string::npos;
+    return found;
+}
+
+void SearchHelpForAbsentPhrase(benchmark::State& state) {
+    FillHelp();
+    const std::string phrase = "calendar view";
+    RunPairs(
+        state, 51, 1.0 / 3, [&] { benchmark::DoNotOptimize(FindInHelp(phrase)); },
+        [&] { benchmark::DoNotOptimize(FoundInCopies(phrase)); });
+}
+BENCHMARK(SearchHelpForAbsentPhrase)->Iterations(1)->Unit(benchmark::kMillisecond);
+
+QApplication& Application() {
+    static int argc = 1;
+    static char name[] = "tools_bench";
+    static char* argv[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static QApplication application(argc, argv);
+    return application;
+}
+
+/// The whole click on "Show Occurrences", with 31,999 Sundays, against filling a list box with as many such texts.
+void CountAndListWeekdays(benchmark::State& state) {
+    Application();
+    NumDays = {MakeDate(1500, 1, 7), MakeDate(1500, 1, 7) + 7 * (MostOccurrences - 1), 0};
+    auto* window = ShowWindow<frmNumDays>();
+    QListWidget plain;
+    plain.setUniformItemSizes(true);
+    plain.show();
+    const QStringList entries(MostOccurrences, QStringLiteral("Sunday 10/12/2009"));
+    RunPairs(
+        state, 51, 1.5,
+        [&] {
+            window->cmdGetDays->click();
+            if (window->lstDays->count() != MostOccurrences) std::abort();
+        },
+        [&] {
+            plain.clear();
+            plain.addItems(entries);
+        });
+    window->close();
+}
+BENCHMARK(CountAndListWeekdays)->Iterations(1)->Unit(benchmark::kMillisecond);
+}  // namespace
