@@ -28,6 +28,9 @@ Window::Window(const char* name, const QString& caption) {
     OpenWindows().push_back(this);
 }
 
+// A window that stands in another one goes with it, without being closed.
+Window::~Window() { std::erase(OpenWindows(), this); }
+
 void Window::closeEvent(QCloseEvent* event) {
     if (unloaded_) return;
     if (!queryUnload()) {

@@ -20,6 +20,7 @@ class Window : public QWidget {
   public:
     /// `name` is the class's own name ("frmNotes"); `caption` the title bar's text.
     Window(const char* name, const QString& caption);
+    ~Window() override;
 
     /// Asked before the window closes; false keeps it open.
     virtual bool queryUnload() { return true; }

@@ -1,0 +1,240 @@
+// The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
+#include "shell/frmMain.h"
+
+#include <gtest/gtest.h>
+
+#include <QLineEdit>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+
+#include "base/clock.h"
+#include "calendar/frmMonth.h"
+#include "calendar/frmYear.h"
+#include "calendar/modCalendar.h"
+#include "calendar/modPaint.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
+#include "forms/qt/text.h"
+#include "marks/modMarks.h"
+#include "marks/modSaveChanges.h"
+#include "reminders/modAlerts.h"
+#include "shell/modPreferences.h"
+#include "tests/support/calendar.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+class MainWindowTest : public testing::Test {
+  protected:
+    MainWindowTest() {
+        putFiles();
+        window_ = new frmMain;
+        window_->startUp();
+        window_->resize(1100, 800);
+        window_->show();
+        QCoreApplication::processEvents();
+    }
+    ~MainWindowTest() override {
+        UnloadAllWindows();
+        Shell = {};
+        AskAboutIcons = {};
+    }
+
+    void putFiles() const {
+        std::string preferences;
+        for (const char* key : {"Tasmoro",
+                                "Shared Directory:",
+                                "Company Name:",
+                                "Company Address 1:",
+                                "Company Address 2:",
+                                "Company City, State Zip:",
+                                "Company Phone:",
+                                "Company Fax:",
+                                "Company Website:",
+                                "Company Email:",
+                                "Auto Complete Word:True",
+                                "Auto Start Position:2",
+                                "Show FUT:False",
+                                "Minimize FUT:False",
+                                "-",
+                                "Default Printer:",
+                                "-",
+                                "Frequent Terms File:",
+                                "Load FUT Position:False",
+                                "FUT Position:Left=1:Top=2:Width=2805:Height=6345"})
+            preferences += std::string(key) + "\r\n";
+        folder_.put("UserPreferences.txt", preferences);
+        folder_.put("Marker Colors.dat",
+                    "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
+                    "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nR&D:32768\r\nHoliday:16711680\r\n"
+                    "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\n"
+                    "Vacation:16711935\r\n");
+        folder_.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
+        folder_.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
+        folder_.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
+    }
+
+    static MonthPicture* picture(int index) {
+        if (auto* year = OpenedWindow<frmYear>()) return year->findChild<MonthPicture*>(ElementName("picMonth", index));
+        return OpenedWindow<frmMonth>()->picMonth();
+    }
+    /// The middle of a date's cell on its picture.
+    static QPoint placeOf(MonthPicture* picture, Date date) {
+        const Cell cell = CellOf(date);
+        return picture->fromScale(QRectF(cell.column, cell.row + 0.75, 1, 1)).center();
+    }
+    void pick(const char* month, const char* day, const char* year) const {
+        window_->cmbMonth->setEditText(QString::fromLatin1(month));
+        window_->cmbDay->setEditText(QString::fromLatin1(day));
+        window_->cmbYear->setEditText(QString::fromLatin1(year));
+    }
+
+    TemporaryFolder folder_;
+    ScriptedDialogs dialogs_;
+    frmMain* window_ = nullptr;
+};
+
+TEST_F(MainWindowTest, OpensInTheYearOfToday) {
+    EXPECT_EQ(CalendarView, 12);
+    ASSERT_NE(OpenedWindow<frmYear>(), nullptr);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2026 Calendar"));
+    EXPECT_EQ(window_->cmbMonth->currentText() + window_->cmbDay->currentText() + window_->cmbYear->currentText(),
+              QStringLiteral("November222026"));
+    EXPECT_EQ(window_->cmbYear->itemText(0), QStringLiteral("2008"));
+    EXPECT_EQ(window_->cmbYear->itemText(window_->cmbYear->count() - 1), QStringLiteral("2020"));
+    EXPECT_EQ(window_->lblDate->text(), QStringLiteral("Today is Sunday, November 22, 2026"));
+    EXPECT_EQ(window_->cmdAlert->text(), QStringLiteral("1 Pending Alert"));
+    for (const char* item : {"mnuFilePrintCalendar", "mnuFilePrintCalendarNoIcons", "mnuOptDateRemoveIcon",
+                             "mnuOptDateShowIcons", "mnuOptDateClearMark", "mnuOptDateRemoveAll"})
+        EXPECT_FALSE(window_->item(QString::fromLatin1(item))->isEnabled()) << item;
+    EXPECT_TRUE(window_->lblTemplate->isHidden());
+    EXPECT_TRUE(window_->imgCal[2]->isLatched());
+}
+
+TEST_F(MainWindowTest, MenusShowTheUsersCaptionsUnderTheCategorysIndex) {
+    const QMenu* shown = window_->item(QStringLiteral("mnuEditDiplayedMarks"))->menu();
+    QStringList names;
+    for (const QAction* action : shown->actions()) names << action->objectName();
+    EXPECT_EQ(names.mid(10), (QStringList{QStringLiteral("mnuEditMark(8)"), QStringLiteral("mnuEditMark(9)"),
+                                          QStringLiteral("mnuEditMark(12)"), QStringLiteral("mnuEditMark(13)"),
+                                          QStringLiteral("mnuEditMark(10)"), QStringLiteral("mnuEditMark(11)"),
+                                          QStringLiteral("mnuEditMarkerSaveSettings")}));
+    EXPECT_EQ(window_->item(QStringLiteral("mnuEditMark(7)"))->text(), QStringLiteral("R&&D"));
+    EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateMarkAs(10)"))->text(), QStringLiteral("Travel"));
+    window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
+    EXPECT_FALSE(window_->item(QStringLiteral("mnuEditMark(9)"))->isChecked());
+    EXPECT_EQ(ShownMonths[10].painted[1][2], 0u) << "the hidden category's mark is painted white";
+    window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
+    EXPECT_EQ(ShownMonths[10].painted[1][2], MeetingColor);
+}
+
+TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
+    QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
+    EXPECT_EQ(CalendarView, 1);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(OpenedWindow<frmYear>(), nullptr);
+    ASSERT_NE(OpenedWindow<frmMonth>(), nullptr);
+    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Dec 2026 Calendar"));
+    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+    EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2027"));
+    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Escape);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_EQ(OpenedWindow<frmMonth>(), nullptr);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2027 Calendar"));
+    QTest::mouseClick(OpenedWindow<frmYear>()->findChild<QPushButton*>(QStringLiteral("cmdMonth(4)")), Qt::LeftButton);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: May 2027 Calendar"));
+}
+
+TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
+    pick("March", "9", "9");
+    QTest::keyClick(window_->cmbYear->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2009"));
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2009 Calendar"));
+    pick("February", "30", "2009");
+    dialogs_.expect("Type mismatch");
+    QTest::keyClick(window_->cmbDay->lineEdit(), Qt::Key_Return);
+    EXPECT_EQ(SelectedDate, MakeDate(2009, 3, 9));
+    pick("July", "1", "1900");
+    QTest::mouseClick(window_->imgOpt[0], Qt::LeftButton);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 1900 Calendar"));
+    EXPECT_FALSE(window_->cmbMonth->lineEdit()->hasSelectedText());
+}
+
+TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
+    MonthPicture* november = picture(10);
+    QTest::mouseClick(november, Qt::LeftButton, {}, placeOf(november, MakeDate(2026, 11, 18)));
+    EXPECT_EQ(window_->cmbDay->currentText(), QStringLiteral("18"));
+    EXPECT_EQ(window_->lblHoliday->text(), QStringLiteral("No Holiday Assigned"));
+    EXPECT_EQ(window_->lblMonth->text() + window_->lblX->text() + window_->lblY->text(), QStringLiteral("1032"));
+    window_->item(QStringLiteral("mnuOptDateQuickMark"))->trigger();
+    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
+    const QPoint middle = placeOf(november, MakeDate(2026, 11, 18));
+    const QImage shot = november->grab().toImage();
+    EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -4))), QuickMarksColor);
+    dialogs_.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
+    window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
+    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
+}
+
+TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
+    auto* year = OpenedWindow<frmYear>();
+    for (const auto& [key, date] :
+         {std::pair{Qt::Key_Right, MakeDate(2026, 11, 23)}, std::pair{Qt::Key_Down, MakeDate(2026, 11, 30)},
+          std::pair{Qt::Key_Right, MakeDate(2026, 12, 1)}, std::pair{Qt::Key_Up, MakeDate(2026, 11, 24)}}) {
+        QTest::keyClick(year, key, Qt::ControlModifier);
+        EXPECT_EQ(SelectedDate, date) << FormatDate(date, "m/d");
+    }
+    EXPECT_EQ(window_->cmbDay->currentText(), QStringLiteral("24"));
+}
+
+TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {
+    struct Row {
+        QSize size;
+        bool right;
+        bool toDo;
+    };
+    for (const Row& row : {Row{{1280, 950}, true, true}, Row{{900, 950}, false, true}, Row{{1280, 600}, true, false},
+                           Row{{800, 600}, false, false}}) {
+        window_->resize(row.size);
+        QCoreApplication::processEvents();
+        EXPECT_EQ(window_->picRight->isVisible(), row.right) << row.size.width();
+        EXPECT_EQ(window_->picBottom[1]->isVisible(), row.toDo) << row.size.height();
+        EXPECT_TRUE(window_->picBottom[0]->isVisible());
+    }
+}
+
+TEST_F(MainWindowTest, ResizingReadsNoFile) {
+    folder_.put("2026Marks.dat", "not a mark");
+    window_->resize(1500, 1000);
+    QCoreApplication::processEvents();
+    const QImage shot = picture(10)->grab().toImage();
+    EXPECT_EQ(ToColor(shot.pixelColor(placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -4))), MeetingColor);
+}
+
+TEST_F(MainWindowTest, AlertsCanBeIgnored) {
+    EXPECT_EQ(window_->lstAlerts->item(0)->text(), QStringLiteral("Order the cake"));
+    window_->lstAlerts->setCurrentRow(0);
+    EXPECT_EQ(window_->lblAlertDate->text(), QStringLiteral("Alert Date = 11/24/26"));
+    QTest::mouseClick(window_->cmdAlert, Qt::RightButton);
+    EXPECT_EQ(window_->cmdAlert->text(), QStringLiteral("Alerts Ignored"));
+}
+
+TEST_F(MainWindowTest, CancelAtTheSaveChangesPromptKeepsEverything) {
+    AskAboutIcons = [](bool) { SaveCancelled = true; };
+    QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
+    EXPECT_EQ(CalendarView, 12);
+    EXPECT_FALSE(window_->close());
+    EXPECT_TRUE(window_->isVisible());
+    AskAboutIcons = {};
+    QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
+    EXPECT_EQ(CalendarView, 1);
+    EXPECT_TRUE(window_->close());
+}
+
+TEST_F(MainWindowTest, VersionIsTold) {
+    dialogs_.expect("Tasmoro Vers. 1.4.4\r\nTasmoro Build Vers. 1.4 Date 3.24.09");
+    window_->item(QStringLiteral("mnuHelpSoftwareVersion"))->trigger();
+}
+}  // namespace
