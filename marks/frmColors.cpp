@@ -9,6 +9,8 @@
 #include <QRegularExpression>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <algorithm>
+#include <optional>
 
 #include "base/dialogs.h"
 #include "calendar/modViews.h"
@@ -24,6 +26,39 @@ constexpr int Border = 3;
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
 Color TextColorOn(Color color) { return LabelTextColor(color).value_or(color == 0 ? White : Black); }
+/// How far an arrow key goes in a group of patches: `across` to the right, `down` to the next row. 0 for other keys.
+int StepOf(int key, int across, int down) {
+    switch (key) {
+        case Qt::Key_Left:
+            return -across;
+        case Qt::Key_Right:
+            return across;
+        case Qt::Key_Up:
+            return -down;
+        case Qt::Key_Down:
+            return down;
+        default:
+            return 0;
+    }
+}
+
+/// The patch so many steps from the one watched, which stays where the group ends; nothing for one of another group.
+template <class Patches>
+std::optional<int> Target(const Patches& patches, const QObject* watched, int step) {
+    const auto found = std::find(patches.begin(), patches.end(), watched);
+    if (step == 0 || found == patches.end()) return std::nullopt;
+    const int from = static_cast<int>(found - patches.begin());
+    const int to = from + step;
+    return to < 0 || to >= static_cast<int>(patches.size()) ? from : to;
+}
+
+/// Of a group the Tab key stops at one patch; the arrow keys reach the others.
+template <class Patches>
+void MakeTabStop(const Patches& patches, int index) {
+    for (int i = 0; i < static_cast<int>(patches.size()); ++i)
+        patches[At(i)]->setFocusPolicy(i == index ? Qt::StrongFocus : Qt::ClickFocus);
+}
+
 /// The text as a box of one line shows it: pasted line breaks are blanks.
 QString OnOneLine(QString text) {
     return text.replace(QRegularExpression(QStringLiteral("[\\r\\n]+")), QStringLiteral(" "));
@@ -55,6 +90,13 @@ QSize ColorPatch::sizeHint() const {
             metrics.height() + 2 * PatchPadding};
 }
 
+void ColorPatch::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QAbstractButton::keyPressEvent(event);
+}
+
 void ColorPatch::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -84,6 +126,7 @@ void ColorPatch::paintEvent(QPaintEvent*) {
 frmColors::frmColors() : Window("frmColors", QStringLiteral("Available Marker Colors")) {
     makeControls();
     layOut();
+    lblMarker[0]->setFocus();
     OpenMarkerLabels();
     showLabels();
     ShowCategoriesInLabels = [window = QPointer(this)] {
@@ -109,8 +152,11 @@ void frmColors::makeControls() {
         ColorPatch* button = cmdColor[At(i)] = Named(new ColorPatch, ElementName("cmdColor", i), name);
         button->setColors(MarkerPalette[At(i)], Black);
         button->setToolTip(name);
+        button->installEventFilter(this);
         connect(button, &ColorPatch::clicked, this, [this, i] { cmdColor_Click(i); });
     }
+    MakeTabStop(lblMarker, 0);
+    MakeTabStop(cmdColor, 0);
     lblCaption = Named(new QLabel(QStringLiteral("Category C&aption =")), QStringLiteral("lblCaption"));
     txtEdit = Named(new QLineEdit, QStringLiteral("txtEdit"), QStringLiteral("Category Caption"));
     txtEdit->setEnabled(false);
@@ -181,6 +227,7 @@ void frmColors::showLabels() {
 void frmColors::selectLabel(int index) {
     current_ = index;
     for (int k = 0; k < CategoryCount; ++k) lblMarker[At(k)]->setBorder(k == index);
+    MakeTabStop(lblMarker, index);
     const QSignalBlocker quiet(txtEdit);
     txtEdit->setText(lblMarker[At(index)]->text());
     txtEdit->setReadOnly(index == QuickMarksCategory);
@@ -196,26 +243,18 @@ bool frmColors::isEdited() const {
     return false;
 }
 
-/// The arrow keys walk over the labels and select without leaving them for the caption box.
-void frmColors::moveSelection(int from, int key) {
-    const int step = key == Qt::Key_Up      ? -1
-                     : key == Qt::Key_Down  ? 1
-                     : key == Qt::Key_Left  ? -LabelRows
-                     : key == Qt::Key_Right ? LabelRows
-                                            : 0;
-    const int to = from + step;
-    if (step == 0 || to < 0 || to >= CategoryCount) return;
-    lblMarker[At(to)]->setFocus(Qt::OtherFocusReason);
-    selectLabel(to);
-}
-
+/// The arrow keys walk over the labels, and select without leaving them for the caption box, and over the colours.
 bool frmColors::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::KeyPress) return false;
     const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key != Qt::Key_Up && key != Qt::Key_Down && key != Qt::Key_Left && key != Qt::Key_Right) return false;
-    for (int k = 0; k < CategoryCount; ++k) {
-        if (lblMarker[At(k)] != watched) continue;
-        moveSelection(k, key);
+    if (const auto label = Target(lblMarker, watched, StepOf(key, LabelRows, 1))) {
+        selectLabel(*label);
+        lblMarker[At(*label)]->setFocus(Qt::OtherFocusReason);
+        return true;
+    }
+    if (const auto color = Target(cmdColor, watched, StepOf(key, 1, PaletteColumns))) {
+        MakeTabStop(cmdColor, *color);
+        cmdColor[At(*color)]->setFocus(Qt::OtherFocusReason);
         return true;
     }
     return false;

@@ -25,6 +25,7 @@ class ColorPatch : public QAbstractButton {
     QSize sizeHint() const override;
 
   protected:
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
   private:
@@ -60,7 +61,6 @@ class frmColors : public Window {
     void showLabels();
     void selectLabel(int index);
     bool isEdited() const;
-    void moveSelection(int from, int key);
 
     void lblMarker_Click(int index);
     void txtEdit_Change();

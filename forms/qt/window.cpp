@@ -49,9 +49,20 @@ QWidget* windows::find(const std::type_info& type) {
     return nullptr;
 }
 
+namespace {
+/// A window that was given no place of its own opens in the middle of the main window.
+void PlaceOver(const QWidget* main, QWidget* window) {
+    if (window->isVisible() || window->testAttribute(Qt::WA_Moved)) return;
+    QRect place(QPoint(), window->testAttribute(Qt::WA_Resized) ? window->size() : window->sizeHint());
+    place.moveCenter(main->geometry().center());
+    PlaceOnScreens(window, place);
+}
+}  // namespace
+
 void windows::present(QWidget* window) {
     // Windows stay in front of the main window and go with it, as its own.
     if (QWidget* main = MainWindow(); main != nullptr && window != main && window->isWindow()) {
+        PlaceOver(main, window);
         window->winId();
         window->windowHandle()->setTransientParent(main->windowHandle());
     }

@@ -81,6 +81,12 @@ TEST_F(ColorsWindow, ArrowKeysWalkOverTheLabels) {
         EXPECT_EQ(window->focusWidget(), window->lblMarker[static_cast<std::size_t>(label)]);
     }
     EXPECT_TRUE(window->lblMarker[1]->hasBorder());
+    window->cmdColor[0]->setFocus();
+    QTest::keyClick(window->focusWidget(), Qt::Key_Down);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Right);
+    QTest::keyClick(window->focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(window->lblMarker[1]->backColor(), MarkerPalette[5]);
+    window->cmdExit->click();
 }
 
 TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
