@@ -21,7 +21,8 @@ class Child : public QWidget {
         picture_.fill(Qt::white);
         QPainter painter(&picture_);
         for (int day = 0; day < 365; ++day)
-            painter.drawText(QRect(day % 28 * 28, day / 28 * 36, 28, 20), Qt::AlignCenter, QString::number(day % 31 + 1));
+            painter.drawText(QRect(day % 28 * 28, day / 28 * 36, 28, 20), Qt::AlignCenter,
+                             QString::number(day % 31 + 1));
     }
 
   protected:

@@ -8,6 +8,9 @@
 #include <QPainter>
 #include <QScreen>
 #include <cmath>
+#include <memory>
+#include <utility>
+#include <vector>
 
 #include "base/errors.h"
 #include "forms/qt/text.h"
@@ -37,7 +40,7 @@ QFont FromFont(const Font& font) {
 
 namespace {
 struct WordKey {
-    QString word;
+    std::string word;
     Font font;
     Color color;
     double ratio;
@@ -45,9 +48,7 @@ struct WordKey {
 };
 
 size_t qHash(const WordKey& key, size_t seed) {
-    return qHashMulti(seed, key.word,
-                      QByteArray::fromRawData(key.font.family.data(), static_cast<qsizetype>(key.font.family.size())),
-                      key.font.points, key.font.bold, key.color, key.ratio);
+    return qHashMulti(seed, std::hash<std::string>()(key.word), key.font.points, key.font.bold, key.color, key.ratio);
 }
 
 struct Word {
@@ -60,21 +61,24 @@ struct FontFacts {
     QHash<std::string, double> widths;
 };
 
-/// The measures of a font, kept: a month asks for the same ones again and again.
+/// The measures of a font, kept: a month asks for the same ones again and again. A program uses few fonts, and finds
+/// them faster by looking at each than by hashing their names.
 FontFacts& FactsOf(const Font& font) {
-    static QHash<std::string, std::shared_ptr<FontFacts>> known;
-    const std::string key =
-        font.family + '|' + std::to_string(font.points) + (font.bold ? 'b' : ' ') + (font.underlined ? 'u' : ' ');
-    auto& facts = known[key];
-    if (!facts) facts = std::make_shared<FontFacts>(FontFacts{QFontMetricsF(FromFont(font)), {}});
-    return *facts;
+    static std::vector<std::pair<Font, std::unique_ptr<FontFacts>>> known;
+    for (const auto& [like, facts] : known)
+        if (like == font) return *facts;
+    constexpr std::size_t MostFonts = 64;  // a window dragged larger asks for many sizes, each for a moment
+    if (known.size() == MostFonts) known.clear();
+    known.emplace_back(font, std::make_unique<FontFacts>(FontFacts{QFontMetricsF(FromFont(font)), {}}));
+    return *known.back().second;
 }
 
 Word DrawnWord(const WordKey& key) {
     const QFont font = FromFont(key.font);
     const QFontMetricsF metrics(font);
+    const QString shown = FromText(key.word);
     // Room around the text for strokes that reach over its box.
-    const QRectF ink = QRectF(0, 0, metrics.horizontalAdvance(key.word), metrics.height()).adjusted(-2, -1, 2, 1);
+    const QRectF ink = QRectF(0, 0, metrics.horizontalAdvance(shown), metrics.height()).adjusted(-2, -1, 2, 1);
     Word word;
     word.image = QImage((ink.size() * key.ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     word.image.fill(Qt::transparent);
@@ -83,10 +87,31 @@ Word DrawnWord(const WordKey& key) {
     QPainter painter(&word.image);
     painter.setFont(font);
     painter.setPen(FromColor(key.color));
-    painter.drawText(QPointF(-ink.left(), -ink.top() + metrics.ascent()), key.word);
+    painter.drawText(QPointF(-ink.left(), -ink.top() + metrics.ascent()), shown);
     painter.end();
     word.image.setDevicePixelRatio(1);
     return word;
+}
+
+/// A colour with all its parts taken times share/255.
+QRgb Share(QRgb color, unsigned share) {
+    const unsigned redBlue = (color & 0xFF00FF) * share + 0x800080;
+    const unsigned green = ((color >> 8) & 0xFF) * share + 0x80;
+    return (((redBlue + ((redBlue >> 8) & 0xFF00FF)) >> 8) & 0xFF00FF) | ((green + (green >> 8)) & 0xFF00);
+}
+
+/// Lays premultiplied pixels over opaque ones. A word is a few dozen pixels: a painter takes longer to make than this.
+void LayOver(QImage& paper, QPoint corner, const QImage& word) {
+    const QRect part = QRect(corner, word.size()) & paper.rect();
+    for (int y = part.top(); y <= part.bottom(); ++y) {
+        auto* out = reinterpret_cast<QRgb*>(paper.scanLine(y));
+        const auto* in = reinterpret_cast<const QRgb*>(word.constScanLine(y - corner.y()));
+        for (int x = part.left(); x <= part.right(); ++x) {
+            const QRgb ink = in[x - corner.x()];
+            if (qAlpha(ink) != 0)
+                out[x] = 0xFF000000 | ((ink & 0xFFFFFF) + Share(out[x], 255u - static_cast<unsigned>(qAlpha(ink))));
+        }
+    }
 }
 
 const Word& WordFor(const WordKey& key) {
@@ -175,11 +200,10 @@ void PictureCanvas::box(double x1, double y1, double x2, double y2, Color color)
 
 void PictureCanvas::text(double x, double y, std::string_view text, const Font& font, Color color) {
     if (text.empty()) return;
-    const Word& word = WordFor({FromText(text), zoomed(font), color, ratio_});
+    const Word& word = WordFor({std::string(text), zoomed(font), color, ratio_});
     const QPoint corner(static_cast<int>(std::lround(toX(x))) + word.offset.x(),
                         static_cast<int>(std::lround(toY(y))) + word.offset.y());
-    QPainter painter(&image_);
-    painter.drawImage(corner, word.image);
+    LayOver(image_, corner, word.image);
     changed(QRect(corner, word.image.size()));
 }
 
