@@ -7,8 +7,9 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QScreen>
-#include <QSignalBlocker>
+#include <algorithm>
 
 #include "base/clock.h"
 #include "base/text.h"
@@ -330,7 +331,19 @@ void frmMain::startUp() {
     ReadToDoList();
 }
 
-bool frmMain::queryUnload() { return MayGoOn(true); }
+namespace {
+/// Closes the windows that stand by themselves, each through its own question; false as soon as one is kept open.
+bool CloseOtherWindows(const QWidget* main) {
+    std::vector<QPointer<Window>> others;  // one that closes may take another with it
+    for (QWidget* each : QApplication::topLevelWidgets())
+        if (auto* window = qobject_cast<Window*>(each); window != nullptr && window != main)
+            others.emplace_back(window);
+    return std::all_of(others.begin(), others.end(),
+                       [](const auto& window) { return window == nullptr || window->isHidden() || window->close(); });
+}
+}  // namespace
+
+bool frmMain::queryUnload() { return MayGoOn(true) && CloseOtherWindows(this); }
 
 void frmMain::unload() {
     UnloadAllWindows(this);

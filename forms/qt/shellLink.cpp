@@ -1,6 +1,7 @@
 // Links to programs, as each system keeps them.
 #include "forms/qt/shellLink.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -8,6 +9,7 @@
 
 #include "base/errors.h"
 #include "base/files.h"
+#include "forms/qt/pictures.h"
 
 namespace {
 QString FolderOf(LinkFolder folder) {
@@ -32,9 +34,20 @@ QString Quoted(QString path) {
     return QLatin1Char('"') + path + QLatin1Char('"');
 }
 
+/// The program's icon as a file beside it, for the links to show.
+QString IconFile(const QString& target) {
+    const QString path = QFileInfo(target).path() + QStringLiteral("/Tasmoro.png");
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!ProgramIcon().pixmap(128).save(&buffer, "PNG")) throw Error(PathFileAccess);
+    WriteWholeFile(Path(path.toStdString()), bytes.toStdString());
+    return path;
+}
+
 void WriteLink(const QString& folder, const QString& caption, const QString& target) {
     const QString link = folder + QLatin1Char('/') + caption + QStringLiteral(".desktop");
-    const QString icon = QFileInfo(target).path() + QStringLiteral("/tasmoro.png");
+    const QString icon = IconFile(target);
     const QString text =
         QStringLiteral("[Desktop Entry]\nType=Application\nName=%1\nExec=%2\nIcon=%3\nTerminal=false\n")
             .arg(caption, Quoted(target), icon);
