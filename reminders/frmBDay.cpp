@@ -1,0 +1,308 @@
+// The birthday manager's window.
+#include "reminders/frmBDay.h"
+
+#include <QBoxLayout>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+#include <algorithm>
+
+#include "base/dialogs.h"
+#include "base/listEntries.h"
+#include "forms/qt/lists.h"
+#include "forms/qt/text.h"
+
+namespace {
+std::size_t At(int index) { return static_cast<std::size_t>(index); }
+
+constexpr std::array<const char*, 7> PeriodCaptions{
+    "Do Not Alert Me",      "On the Same Day",      "1 Day Ahead of Time",  "3 Days Ahead of Time",
+    "5 Days Ahead of Time", "7 Days Ahead of Time", "10 Days Ahead of Time"};
+}  // namespace
+
+frmBDay::frmBDay() : Window("frmBDay", QStringLiteral("Birthday Management")) {
+    makeEdits();
+    makePeriods();
+    makeLists();
+    buildMenus();
+    layOut();
+    OpenBirthdayList();
+    showLists();
+    mnuFileNew_Click();
+}
+
+// -- Making ---------------------------------------------------------------------------------------------------------
+
+void frmBDay::makeEdits() {
+    lblName = Named(new QLabel(QStringLiteral("Name (First Name First)")), QStringLiteral("lblName"));
+    lblBDay = Named(new QLabel(QStringLiteral("Birthday mm/dd/yy (Year is Optional)")), QStringLiteral("lblBDay"));
+    txt[0] = Named(new QLineEdit, ElementName("txt", 0), QStringLiteral("Name"));
+    txt[1] = Named(new QLineEdit, ElementName("txt", 1), QStringLiteral("Birthday"));
+    chkRememberAge = Named(new QCheckBox(QStringLiteral("Remember &Age")), QStringLiteral("chkRememberAge"));
+    chkRememberAge->setToolTip(QStringLiteral("Keep the year of birth"));
+    lblAge = Named(new QLabel(QStringLiteral("Age")), QStringLiteral("lblAge"));
+    cmdSave = Named(new QPushButton(QStringLiteral("&Save")), QStringLiteral("cmdSave"));
+    cmdSave->setAutoDefault(true);
+    dateLeft_ = new Leaving(txt[1], [this] { txt_LostFocus(); });
+    connect(txt[0], &QLineEdit::returnPressed, this, [this] { txt[1]->setFocus(); });
+    connect(txt[1], &QLineEdit::returnPressed, this, [this] { cmdSave->setFocus(); });
+    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+}
+
+void frmBDay::makePeriods() {
+    framNotificationPeriod =
+        Named(new QGroupBox(QStringLiteral("Alert Notification Period")), QStringLiteral("framNotificationPeriod"));
+    lblNotifyMe = Named(new QLabel(QStringLiteral("or... Alert Me")), QStringLiteral("lblNotifyMe"));
+    auto* periods = new QVBoxLayout(framNotificationPeriod);
+    for (int i = 0; i < static_cast<int>(optNotify.size()); ++i) {
+        optNotify[At(i)] =
+            Named(new QRadioButton(QString::fromLatin1(PeriodCaptions[At(i)])), ElementName("optNotify", i));
+        if (i == 1) periods->addWidget(lblNotifyMe);
+        periods->addWidget(optNotify[At(i)]);
+    }
+}
+
+void frmBDay::makeLists() {
+    for (int element : {1, 2}) {
+        QListWidget* list =
+            Named(new QListWidget, ElementName("lstData", element),
+                  element == 1 ? QStringLiteral("Birthdays by month") : QStringLiteral("Birthdays by name"));
+        list->setSelectionMode(QAbstractItemView::ExtendedSelection);
+        list->setUniformItemSizes(true);
+        connect(list, &QListWidget::itemSelectionChanged, this, [this, element] { lstData_Click(element); });
+        lstData[At(element)] = list;
+    }
+    lstData[2]->hide();
+    cmdDelete = Named(new QPushButton(QStringLiteral("&Delete Selected")), QStringLiteral("cmdDelete"));
+    cmdClear = Named(new QPushButton(QStringLiteral("De-Se&lect All")), QStringLiteral("cmdClear"));
+    cmdSort = Named(new QPushButton(QStringLiteral("Sort by &Name")), QStringLiteral("cmdSort"));
+    for (QPushButton* button : {cmdDelete, cmdClear, cmdSort}) button->setAutoDefault(true);
+    connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
+    connect(cmdClear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
+    connect(cmdSort, &QPushButton::clicked, this, [this] { cmdSort_Click(); });
+    new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
+}
+
+void frmBDay::buildMenus() {
+    const auto item = [](const char* name, const char* caption, const char* parent, std::function<void()> command,
+                         QKeySequence shortcut = {}) {
+        return MenuItem{QString::fromLatin1(name),
+                        QString::fromLatin1(caption),
+                        QString::fromLatin1(parent),
+                        std::move(command),
+                        false,
+                        std::move(shortcut)};
+    };
+    menus.build(
+        new QMenuBar(this),
+        {item("mnuFile", "&File", "", {}),
+         item(
+             "mnuFileNew", "&New", "mnuFile", [this] { mnuFileNew_Click(); }, QKeySequence::New),
+         item(
+             "mnuFileSave", "&Save", "mnuFile", [this] { cmdSave_Click(); }, QKeySequence::Save),
+         item(
+             "mnuFilePrint", "&Print Record", "mnuFile", [this] { PrintBirthdayRecord(typed()); }, QKeySequence::Print),
+         item("mnuFilePrintList", "Print &Entire List", "mnuFile", [this] { PrintBirthdayList(visibleEntries()); }),
+         item("mnuFilePrintSelected", "Print Selected Items in the List", "mnuFile",
+              [this] { PrintSelectedBirthdays(selectedEntries()); }),
+         item("mnuOptions", "&Options", "", {}), item("mnuMarkOptions", "&Mark Options", "mnuOptions", {}),
+         item("mnuOptMarkAll", "Mark Calendars with All Birthdays", "mnuMarkOptions",
+              [this] { mnuOptMarkAll_Click(); }),
+         item("mnuView", "&View", "", {}), item("mnuViewAll", "&All", "mnuView", [this] { view(false); }),
+         item("mnuViewUpcoming", "&Upcoming Only", "mnuView", [this] { view(true); })});
+}
+
+QLayout* frmBDay::editLayout() {
+    auto* age = new QHBoxLayout;
+    age->addWidget(chkRememberAge);
+    age->addStretch(1);
+    age->addWidget(lblAge);
+    auto* edits = new QVBoxLayout;
+    edits->addWidget(lblName);
+    edits->addWidget(txt[0]);
+    edits->addWidget(lblBDay);
+    edits->addWidget(txt[1]);
+    edits->addLayout(age);
+    edits->addWidget(framNotificationPeriod);
+    edits->addWidget(cmdSave);
+    edits->addStretch(1);
+    return edits;
+}
+
+QLayout* frmBDay::listLayout() {
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {cmdSort, cmdClear, cmdDelete}) buttons->addWidget(button);
+    auto* lists = new QVBoxLayout;
+    for (int element : {1, 2}) lists->addWidget(lstData[At(element)], 1);
+    lists->addLayout(buttons);
+    return lists;
+}
+
+void frmBDay::layOut() {
+    auto* both = new QHBoxLayout;
+    both->addLayout(editLayout());
+    both->addSpacing(Pixels(120));
+    both->addLayout(listLayout(), 1);
+    auto* whole = new QVBoxLayout(this);
+    whole->setMenuBar(findChild<QMenuBar*>());
+    whole->addLayout(both);
+    txt[0]->setMinimumWidth(fontMetrics().averageCharWidth() * 36);
+    resize(fontMetrics().averageCharWidth() * 105, std::max(sizeHint().height(), fontMetrics().height() * 28));
+    QWidget* before = txt[0];
+    for (QWidget* next : std::initializer_list<QWidget*>{txt[1], chkRememberAge, optNotify[0], cmdSave, lstData[1],
+                                                         lstData[2], cmdSort, cmdClear, cmdDelete}) {
+        setTabOrder(before, next);
+        before = next;
+    }
+}
+
+// -- Showing --------------------------------------------------------------------------------------------------------
+
+void frmBDay::showLists() {
+    setWindowTitle(FromText(BirthdayListTitle()));
+    const std::array<const std::vector<std::string>*, 3> entries{nullptr, &BirthdayList.byMonth, &BirthdayList.byName};
+    for (int element : {1, 2}) {
+        const QSignalBlocker quiet(lstData[At(element)]);
+        ShowEntries(lstData[At(element)], *entries[At(element)]);
+        lstData[At(element)]->clearSelection();
+    }
+}
+
+void frmBDay::showEdit(const BirthdayEdit& shown) {
+    txt[0]->setText(FromText(shown.name));
+    txt[0]->setCursorPosition(0);
+    txt[1]->setText(FromText(shown.date));
+    chkRememberAge->setChecked(shown.rememberAge);
+    lblAge->setText(FromText(shown.age));
+    for (QRadioButton* option : optNotify) {
+        // Of exclusive buttons none can be cleared while one has to stay.
+        option->setAutoExclusive(false);
+        option->setChecked(shown.period && option == optNotify[At(*shown.period)]);
+        option->setAutoExclusive(true);
+    }
+}
+
+const std::vector<std::string>& frmBDay::visibleEntries() const {
+    return visibleElement() == 1 ? BirthdayList.byMonth : BirthdayList.byName;
+}
+
+std::vector<std::string> frmBDay::selectedEntries() const {
+    std::vector<std::string> selected;
+    for (std::size_t row = 0; row < visibleEntries().size(); ++row)
+        if (visibleList()->item(static_cast<int>(row))->isSelected()) selected.push_back(visibleEntries()[row]);
+    return selected;
+}
+
+/// Selects the birthday's entry in the visible list, where it is listed.
+void frmBDay::selectBirthday(int index) {
+    const auto& entries = visibleEntries();
+    const auto found = std::find_if(entries.begin(), entries.end(),
+                                    [index](const std::string& entry) { return RecordIndex(entry) == index; });
+    if (found == entries.end()) return;
+    const QSignalBlocker quiet(visibleList());
+    visibleList()->setCurrentRow(static_cast<int>(found - entries.begin()));
+}
+
+// -- Entering -------------------------------------------------------------------------------------------------------
+
+BirthdayEdit frmBDay::typed() const {
+    const auto chosen =
+        std::find_if(optNotify.begin(), optNotify.end(), [](auto* option) { return option->isChecked(); });
+    BirthdayEdit edit{ToText(txt[0]->text()), ToText(txt[1]->text()), chkRememberAge->isChecked(), std::nullopt,
+                      ToText(lblAge->text())};
+    if (chosen != optNotify.end()) edit.period = static_cast<int>(chosen - optNotify.begin());
+    return edit;
+}
+
+void frmBDay::lstData_Click(int element) {
+    QListWidget* list = lstData[At(element)];
+    const auto& entries = element == 1 ? BirthdayList.byMonth : BirthdayList.byName;
+    const int row = list->currentRow();
+    if (row < 0 || !list->item(row)->isSelected()) {
+        if (list->selectedItems().isEmpty()) BirthdayList.edited = -1;
+        return;
+    }
+    if (const auto index = RecordIndex(entries[At(row)])) showEdit(SelectBirthday(*index));
+}
+
+void frmBDay::txt_LostFocus() {
+    const std::string date = ToText(txt[1]->text());
+    if (!ReadDate(date)) return ShowMessage("Invalid Date");
+    if (!NamesYear(date)) chkRememberAge->setChecked(false);  // there is no year to remember
+}
+
+void frmBDay::proposeNew(Date date) {
+    if (BirthdayList.edited >= 0) mnuFileNew_Click();
+    txt[1]->setText(FromText(FormatDate(date, "mm/dd")));
+    chkRememberAge->setChecked(false);  // there is no year to remember
+    setTabOrder(txt[0], txt[1]);
+    txt[0]->setFocus();
+}
+
+// -- Commands -------------------------------------------------------------------------------------------------------
+
+void frmBDay::cmdSave_Click() {
+    dateLeft_->cancel();
+    const auto name = TextToSave(txt[0]->text());
+    if (!name) return txt[0]->setFocus();
+    BirthdayEdit edit = typed();
+    edit.name = *name;
+    const BirthdayField field = SaveBirthday(edit);
+    if (field == BirthdayField::Name) txt[0]->setFocus();
+    if (field == BirthdayField::Date) txt[1]->setFocus();
+    if (field != BirthdayField::Saved) return;
+    showLists();
+    if (BirthdayList.edited < 0) return;
+    selectBirthday(BirthdayList.edited);
+    showEdit(SelectBirthday(BirthdayList.edited));
+}
+
+void frmBDay::cmdDelete_Click() {
+    std::vector<int> indexes;
+    for (const std::string& entry : selectedEntries())
+        if (const auto index = RecordIndex(entry)) indexes.push_back(*index);
+    if (!DeleteBirthdays(indexes)) return;
+    showLists();
+    lblAge->setText(QStringLiteral("Age = NA"));
+}
+
+void frmBDay::cmdClear_Click() {
+    for (int element : {1, 2}) lstData[At(element)]->clearSelection();
+}
+
+void frmBDay::cmdSort_Click() {
+    std::vector<int> selected;
+    for (const std::string& entry : selectedEntries())
+        if (const auto index = RecordIndex(entry)) selected.push_back(*index);
+    const bool byName = visibleElement() == 1;
+    lstData[1]->setVisible(!byName);
+    lstData[2]->setVisible(byName);
+    cmdSort->setText(byName ? QStringLiteral("Sort by &Month") : QStringLiteral("Sort by &Name"));
+    const QSignalBlocker quiet(visibleList());
+    visibleList()->clearSelection();
+    for (std::size_t row = 0; row < visibleEntries().size(); ++row)
+        if (std::count(selected.begin(), selected.end(), RecordIndex(visibleEntries()[row])) > 0)
+            visibleList()->item(static_cast<int>(row))->setSelected(true);
+}
+
+void frmBDay::mnuFileNew_Click() {
+    BirthdayList.edited = -1;
+    cmdClear_Click();
+    showEdit({});
+    txt[0]->setFocus();
+}
+
+void frmBDay::mnuOptMarkAll_Click() {
+    ReadAndMarkBirthdays();
+    ReadAndMarkNextYearsBirthdays();
+}
+
+void frmBDay::view(bool pendingOnly) {
+    ViewBirthdays(pendingOnly);
+    showLists();
+    mnuFileNew_Click();
+}
+
+void frmBDay::unload() { CloseBirthdayList(); }
+
+void OpenBirthdayManagerFor(Date date) { ShowWindow<frmBDay>()->proposeNew(date); }

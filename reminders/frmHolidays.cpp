@@ -1,0 +1,180 @@
+// The holiday manager's window.
+#include "reminders/frmHolidays.h"
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <QMenuBar>
+#include <QShortcut>
+#include <QSignalBlocker>
+
+#include "forms/qt/lists.h"
+#include "forms/qt/text.h"
+#include "reminders/modHolidayManager.h"
+
+frmHolidays::frmHolidays() : Window("frmHolidays", QStringLiteral("Holiday Manager")) {
+    makeControls();
+    buildMenus();
+    layOut();
+    OpenHolidayList();
+    PopulateComboList();
+    showList(0);
+    lstHolidays->setFocus();
+}
+
+void frmHolidays::makeControls() {
+    lblYear = Named(new QLabel(QStringLiteral("Change the Year Below")), QStringLiteral("lblYear"));
+    cmbYear = Named(new QComboBox, QStringLiteral("cmbYear"), QStringLiteral("Year"));
+    cmbYear->setEditable(true);
+    cmbYear->setInsertPolicy(QComboBox::NoInsert);
+    cmbYear->setCompleter(nullptr);
+    cmbYear->setToolTip(
+        QStringLiteral("Pick a year, or type any other and choose New Holiday List from the File menu"));
+    lblYear->setBuddy(cmbYear);
+    lblList = Named(new QLabel(QStringLiteral("Holiday List - Click to Select")), QStringLiteral("lblList"));
+    lstHolidays = Named(new QListWidget, QStringLiteral("lstHolidays"), QStringLiteral("Holiday List"));
+    lstHolidays->setUniformItemSizes(true);
+    Label1 = Named(new QLabel(QStringLiteral("Date")), QStringLiteral("Label1"));
+    txtDate = Named(new QLineEdit, QStringLiteral("txtDate"), QStringLiteral("Date"));
+    lblDesc = Named(new QLabel(QStringLiteral("Description")), QStringLiteral("lblDesc"));
+    txtDesc = Named(new QLineEdit, QStringLiteral("txtDesc"), QStringLiteral("Description"));
+    cmdSave = Named(new QPushButton(QStringLiteral("&Save and Update List")), QStringLiteral("cmdSave"));
+    cmdDelete = Named(new QPushButton(QStringLiteral("&Remove this Holiday")), QStringLiteral("cmdDelete"));
+    cmdAddNew = Named(new QPushButton(QStringLiteral("&Insert New Holiday")), QStringLiteral("cmdAddNew"));
+    for (QPushButton* button : {cmdSave, cmdDelete, cmdAddNew}) button->setAutoDefault(true);
+    connect(cmbYear, &QComboBox::textActivated, this, [this] { cmbYear_Click(); });
+    connect(lstHolidays, &QListWidget::currentRowChanged, this, &frmHolidays::lstHolidays_Click);
+    connect(lstHolidays, &QListWidget::itemClicked, this, [this] { lstHolidays_Click(lstHolidays->currentRow()); });
+    connect(txtDate, &QLineEdit::returnPressed, this, [this] { focusOn(txtDesc); });
+    connect(txtDesc, &QLineEdit::returnPressed, cmdSave, [this] { cmdSave->setFocus(); });
+    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
+    connect(cmdAddNew, &QPushButton::clicked, this, [this] { cmdAddNew_Click(); });
+    new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
+    // A year that was typed and not loaded would stand over another year's list.
+    new Leaving(cmbYear->lineEdit(), [this] { cmbYear->setEditText(FromText(HolidayList.year)); });
+}
+
+void frmHolidays::buildMenus() {
+    const QString file = QStringLiteral("mnuFile");
+    menus.build(new QMenuBar(this), {{file, QStringLiteral("&File"), {}},
+                                     {QStringLiteral("mnuFileNew"), QStringLiteral("&New Holiday List"), file,
+                                      [this] { mnuFileNew_Click(); }, false, QKeySequence::New},
+                                     {QStringLiteral("mnuFileSave"), QStringLiteral("&Save"), file,
+                                      [this] { mnuFileSave_Click(); }, false, QKeySequence::Save}});
+}
+
+void frmHolidays::layOut() {
+    auto* left = new QVBoxLayout;
+    left->addWidget(lblList);
+    left->addWidget(lstHolidays, 1);
+    auto* right = new QVBoxLayout;
+    right->addWidget(lblYear);
+    right->addWidget(cmbYear);
+    right->addSpacing(Pixels(180));
+    right->addWidget(Label1);
+    right->addWidget(txtDate);
+    right->addWidget(lblDesc);
+    right->addWidget(txtDesc);
+    right->addSpacing(Pixels(180));
+    for (QPushButton* button : {cmdSave, cmdAddNew, cmdDelete}) right->addWidget(button);
+    right->addStretch(1);
+    auto* all = new QHBoxLayout;
+    all->addLayout(left, 1);
+    all->addSpacing(Pixels(120));
+    all->addLayout(right);
+    auto* whole = new QVBoxLayout(this);
+    whole->setMenuBar(findChild<QMenuBar*>());
+    whole->addLayout(all);
+    txtDesc->setMinimumWidth(fontMetrics().averageCharWidth() * 34);
+    resize(fontMetrics().averageCharWidth() * 90, fontMetrics().height() * 24);
+    QWidget* const order[] = {lstHolidays, cmbYear, txtDate, txtDesc, cmdSave, cmdAddNew, cmdDelete};
+    for (std::size_t i = 1; i < std::size(order); ++i) setTabOrder(order[i - 1], order[i]);
+}
+
+void frmHolidays::PopulateComboList() {
+    const QSignalBlocker quiet(cmbYear);
+    for (int year = 2008; year <= 2020; ++year) cmbYear->addItem(QString::number(year));
+}
+
+// -- Showing --------------------------------------------------------------------------------------------------------
+
+void frmHolidays::showList(int entry) {
+    const QSignalBlocker quiet(lstHolidays);
+    ShowEntries(lstHolidays, HolidayList.lines);
+    lstHolidays->setCurrentRow(entry);
+    cmbYear->setEditText(FromText(HolidayList.year));
+    showEntry(entry);
+}
+
+void frmHolidays::showEntry(int entry) {
+    txtDate->setText(FromText(HolidayDateShown(entry)));
+    txtDesc->setText(FromText(HolidayDescription(entry)));
+    txtDesc->setCursorPosition(0);
+}
+
+void frmHolidays::focusOn(QLineEdit* box) {
+    box->setFocus();
+    box->selectAll();
+}
+
+void frmHolidays::proposeNew(Date date) {
+    const std::string year = FormatDate(date, "yyyy");
+    if (HolidayList.year != year) SelectHolidayYear(year);
+    HolidayList.clicked = -1;
+    showList(-1);
+    txtDate->setText(FromText(FormatDate(date, "mmm dd, yyyy")));
+    txtDesc->setFocus();
+}
+
+// -- Commands -------------------------------------------------------------------------------------------------------
+
+void frmHolidays::cmbYear_Click() {
+    SelectHolidayYear(ToText(cmbYear->currentText()));
+    showList(0);
+}
+
+void frmHolidays::lstHolidays_Click(int entry) {
+    if (entry < 0) return;
+    HolidayList.clicked = entry;
+    showEntry(entry);
+}
+
+void frmHolidays::cmdSave_Click() {
+    const auto description = TextToSave(txtDesc->text());
+    if (!description) return focusOn(txtDesc);
+    switch (SaveHoliday(ToText(txtDate->text()), *description)) {
+        case HolidayField::Date:
+            return focusOn(txtDate);
+        case HolidayField::Description:
+            return focusOn(txtDesc);
+        case HolidayField::Saved:
+            return showList(0);
+    }
+}
+
+void frmHolidays::cmdDelete_Click() {
+    if (HolidayList.lines.empty() || HolidayList.clicked < 0) return;
+    RemoveHoliday();
+    showList(0);
+}
+
+void frmHolidays::cmdAddNew_Click() {
+    txtDesc->clear();
+    txtDate->clear();
+    txtDate->setFocus();
+}
+
+void frmHolidays::mnuFileNew_Click() {
+    if (!StartHolidayList(ToText(cmbYear->currentText()))) {
+        cmbYear->setFocus();
+        return;
+    }
+    showList(HolidayList.clicked);
+    if (HolidayList.lines.empty()) txtDate->setFocus();
+}
+
+void frmHolidays::mnuFileSave_Click() { SaveHolidaysAndRedraw(); }
+
+void frmHolidays::unload() { CloseHolidayList(); }
+
+void OpenHolidayManagerFor(Date date) { ShowWindow<frmHolidays>()->proposeNew(date); }

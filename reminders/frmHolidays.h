@@ -1,0 +1,58 @@
+// The holiday manager's window.
+#pragma once
+
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+
+#include "base/dates.h"
+#include "forms/qt/leaving.h"
+#include "forms/qt/menus.h"
+#include "forms/qt/window.h"
+
+class frmHolidays : public Window {
+    Q_OBJECT
+
+  public:
+    frmHolidays();
+
+    QLabel* lblYear;
+    QComboBox* cmbYear;
+    QLabel* lblList;
+    QListWidget* lstHolidays;
+    QLabel* Label1;
+    QLineEdit* txtDate;
+    QLabel* lblDesc;
+    QLineEdit* txtDesc;
+    QPushButton* cmdSave;
+    QPushButton* cmdDelete;
+    QPushButton* cmdAddNew;
+    Menus menus;
+
+    /// Proposes a new holiday on the date, in the list of its year.
+    void proposeNew(Date date);
+
+  protected:
+    void unload() override;
+
+  private:
+    void makeControls();
+    void buildMenus();
+    void layOut();
+    void PopulateComboList();
+    void showList(int entry);
+    void showEntry(int entry);
+    void focusOn(QLineEdit* box);
+    void cmbYear_Click();
+    void lstHolidays_Click(int entry);
+    void cmdSave_Click();
+    void cmdDelete_Click();
+    void cmdAddNew_Click();
+    void mnuFileNew_Click();
+    void mnuFileSave_Click();
+};
+
+/// Opens the window for a new holiday on the date.
+void OpenHolidayManagerFor(Date date);
