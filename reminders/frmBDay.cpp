@@ -106,8 +106,7 @@ void frmBDay::buildMenus() {
          item("mnuFilePrintSelected", "Print Selected Items in the List", "mnuFile",
               [this] { PrintSelectedBirthdays(selectedEntries()); }),
          item("mnuOptions", "&Options", "", {}), item("mnuMarkOptions", "&Mark Options", "mnuOptions", {}),
-         item("mnuOptMarkAll", "Mark Calendars with All Birthdays", "mnuMarkOptions",
-              [this] { mnuOptMarkAll_Click(); }),
+         item("mnuOptMarkAll", "Mark Calendars with All Birthdays", "mnuMarkOptions", MarkAllBirthdays),
          item("mnuView", "&View", "", {}), item("mnuViewAll", "&All", "mnuView", [this] { view(false); }),
          item("mnuViewUpcoming", "&Upcoming Only", "mnuView", [this] { view(true); })});
 }
@@ -290,11 +289,6 @@ void frmBDay::mnuFileNew_Click() {
     cmdClear_Click();
     showEdit({});
     txt[0]->setFocus();
-}
-
-void frmBDay::mnuOptMarkAll_Click() {
-    ReadAndMarkBirthdays();
-    ReadAndMarkNextYearsBirthdays();
 }
 
 void frmBDay::view(bool pendingOnly) {

@@ -68,7 +68,6 @@ class frmBDay : public Window {
     void cmdClear_Click();
     void cmdSort_Click();
     void mnuFileNew_Click();
-    void mnuOptMarkAll_Click();
     void view(bool pendingOnly);
 
     Leaving* dateLeft_;

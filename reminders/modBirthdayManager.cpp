@@ -10,6 +10,7 @@
 #include "base/listEntries.h"
 #include "base/state.h"
 #include "base/text.h"
+#include "calendar/modViews.h"
 #include "forms/printer.h"
 #include "shell/modErrors.h"
 
@@ -244,6 +245,12 @@ bool DeleteBirthdays(const std::vector<int>& indexes) {
     for (const int index : indexes) EraseLine(BirthdayLine[static_cast<std::size_t>(index)]);
     BirthdayList.edited = -1;
     return SaveAndReload(several);
+}
+
+void MarkAllBirthdays() {
+    ReadAndMarkBirthdays();
+    ReadAndMarkNextYearsBirthdays();
+    RepaintCalendar();  // marks lie over birthdays
 }
 
 void CloseBirthdayList() {

@@ -73,6 +73,9 @@ BirthdayField SaveBirthday(const BirthdayEdit& typed);
 /// "Backup". True if they are deleted.
 bool DeleteBirthdays(const std::vector<int>& indexes);
 
+/// Marks the open calendar's months with all birthdays at once.
+void MarkAllBirthdays();
+
 /// Tells, when the window closes, that something was saved.
 void CloseBirthdayList();
 

@@ -22,12 +22,16 @@
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "marks/modCategories.h"
+#include "marks/modMarkCommands.h"
 #include "marks/modSaveChanges.h"
 #include "notes/frmHelpPanel.h"
 #include "notes/frmToDoPanel.h"
 #include "notes/modHelp.h"
 #include "notes/modNotes.h"
 #include "notes/modToDo.h"
+#include "reminders/frmAlert.h"
+#include "reminders/frmBDay.h"
+#include "reminders/frmHolidays.h"
 #include "reminders/modAlerts.h"
 #include "reminders/modBirthdays.h"
 #include "shell/modErrors.h"
@@ -141,9 +145,11 @@ void frmMain::buildIndicators(QWidget* strip) {
     row->addWidget(imgNotes);
     imgBDay = Named(new PictureButton(Picture::NoBirthdays, QStringLiteral("No Birthdays Pending"), strip),
                     QStringLiteral("imgBDay(0)"), QStringLiteral("No Birthdays Pending"));
+    connect(imgBDay, &PictureButton::clicked, this, [] { ShowWindow<frmBDay>(); });
     row->addWidget(imgBDay);
     imgAlert = Named(new PictureButton(Picture::NoAlerts, QStringLiteral("No Alerts Exist"), strip),
                      QStringLiteral("imgAlert(0)"), QStringLiteral("No Alerts Exist"));
+    connect(imgAlert, &PictureButton::clicked, this, [] { OpenAlertManager(true); });
     row->addWidget(imgAlert);
     cmdAlert = Named(new QPushButton(QStringLiteral("No Pending Alerts"), strip), QStringLiteral("cmdAlert"));
     cmdAlert->setToolTip(QStringLiteral("Click to View"));
@@ -272,6 +278,8 @@ void frmMain::fillShellCalls() {
 }
 
 void frmMain::fillReminderHooks() {
+    OpenBirthdayManager = OpenBirthdayManagerFor;
+    OpenHolidayManager = OpenHolidayManagerFor;
     ShowAlertIndicator = [this] { showAlertIndicator(); };
     ShowBirthdayIndicator = [this] { showBirthdayIndicator(); };
     ShowPendingAlerts = [this] {
@@ -377,7 +385,10 @@ void frmMain::cmbYear_LostFocus() {
 }
 
 void frmMain::cmdAlert_MouseDown(Qt::MouseButton button) {
-    if (button != Qt::LeftButton) IgnorePendingAlerts();
+    if (button == Qt::LeftButton)
+        OpenAlertManager(true);
+    else
+        IgnorePendingAlerts();
 }
 
 void frmMain::lstAlerts_Click() {

@@ -1,5 +1,6 @@
 // The main window's menu table: name, caption, parent, command.
 #include "base/dialogs.h"
+#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "marks/frmColors.h"
 #include "marks/frmMarkers.h"
@@ -10,6 +11,9 @@
 #include "notes/frmHelp.h"
 #include "notes/frmPref.h"
 #include "notes/frmToDo.h"
+#include "reminders/frmAlert.h"
+#include "reminders/frmBDay.h"
+#include "reminders/frmHolidays.h"
 #include "shell/frmMain.h"
 #include "shell/modPreferences.h"
 #include "shell/modShortcuts.h"
@@ -115,7 +119,8 @@ Table DateItems() {
             With("mnuOptDateClearMark", "Clear Mark from Selected Date", "mnuDateOptions", ClearMarkFromSelectedDate),
             With("mnuOptDateAttachHoverText", "Attach Mouse Over (Hover) Note", "mnuDateOptions", AttachHoverText),
             With("mnuOptDateOpenNotes", "Open Notes for Selected Date", "mnuDateOptions", {}),
-            With("mnuOptDateSetAlert", "Set Alert for Selected Date", "mnuDateOptions", {}),
+            With("mnuOptDateSetAlert", "Set Alert for Selected Date", "mnuDateOptions",
+                 [] { OpenAlertManagerFor(SelectedDate); }),
             Without("mnuOptDateViewAlert", "View Alert for Selected Date", "mnuDateOptions"),
             With("mnuOptDateShowIcons", "View Insertable Icons", "mnuDateOptions", {}),
             With("mnuOptDateRemoveIcon", "Remove Selected Icon", "mnuDateOptions", {}),
@@ -143,11 +148,11 @@ Table OptionItems() {
 Table ManageItems() {
     return {
         Without("mnuManage", "&Manage", ""),
-        With("mnuManageAlerts", "Alerts", "mnuManage", {}),
+        With("mnuManageAlerts", "Alerts", "mnuManage", [] { OpenAlertManager(false); }),
         With("mnuManageNotes", "Notes", "mnuManage", {}),
         With("mnuManageToDo", "To Do List", "mnuManage", OpenToDoList),
-        With("mnuManageHolidays", "Holidays", "mnuManage", {}),
-        With("mnuManageBDays", "Birthdays", "mnuManage", {}),
+        With("mnuManageHolidays", "Holidays", "mnuManage", [] { ShowWindow<frmHolidays>(); }),
+        With("mnuManageBDays", "Birthdays", "mnuManage", [] { ShowWindow<frmBDay>(); }),
         With("mnuManageIcons", "Insertable Icons", "mnuManage", {}),
         Without("mnuManageFUT", "Frequently Used Terms", "mnuManage"),
         With("mnuManageFUTList", "Edit List", "mnuManageFUT", {}),
