@@ -175,6 +175,7 @@ QLayout* frmAlert::periodLayout() {
     days->addStretch(1);
     auto* period = new QHBoxLayout;
     period->addLayout(choices);
+    period->addSpacing(Pixels(240));
     period->addLayout(days, 1);
     return period;
 }
@@ -195,16 +196,16 @@ void frmAlert::layOut() {
     for (int element : {1, 2}) right->addWidget(lstAlerts[At(element)], 1);
     right->addWidget(cmdDelete);
     auto* both = new QHBoxLayout;
-    both->addLayout(left);
+    both->addLayout(left, 3);
     both->addSpacing(Pixels(120));
-    both->addLayout(right, 1);
+    both->addLayout(right, 2);
     auto* whole = new QVBoxLayout(this);
     whole->setMenuBar(findChild<QMenuBar*>());
     whole->addLayout(both);
     const int letter = fontMetrics().averageCharWidth();
     txtValue->setMaximumWidth(letter * 10);
-    lstAlerts[1]->setMinimumWidth(letter * 32);
-    lstAlerts[2]->setMinimumWidth(letter * 32);
+    Label1->setMinimumWidth(letter * 24);
+    txtMessage->setMinimumHeight(fontMetrics().height() * 5);
     resize(letter * 105, fontMetrics().height() * 30);
 }
 

@@ -3,10 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/printer.h"
-#include "forms/recorder.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
+#include "tests/support/printer.h"
 
 namespace {
 const std::string TenRows =
@@ -140,23 +139,13 @@ TEST(ToDo, PrintsEachControlAtItsPlace) {
     dialogs.expect("Printer could not be found");
     PrintToDoList(sheet);
 
-    struct Kept : Recorder {  // the calls outlive the document
-        Kept(std::vector<std::string>& calls) : Recorder(20), all(calls) {}
-        ~Kept() override { all = calls(); }
-        std::vector<std::string>& all;
-    };
-    std::vector<std::string> calls;
-    const auto before = SetPrinter({[] { return std::vector<std::string>{"P"}; }, [](const std::string&) {}, [] {},
-                                    [&](const std::string&) { return std::make_unique<Kept>(calls); }});
-    PrinterAvailable = true;
+    const RecordedPrinter printer;
+    CheckPrinter();
     SetToDoText(1, "Water the plants");
     SetToDoText(2, std::string(200, 'x'));
     ToggleToDoDone(1);
     PrintToDoList(sheet);
-    SetPrinter(before);
-    const auto has = [&](const std::string& call) {
-        return std::find(calls.begin(), calls.end(), call) != calls.end();
-    };
+    const auto has = [&](const std::string& call) { return printer.count(call) > 0; };
     EXPECT_TRUE(has("text 720 720 'Nov 22, 2026 To Do List' Arial 14 bold 000000"));
     EXPECT_TRUE(has("box 840 1665 1080 1905 000000"));
     EXPECT_TRUE(has("text 1200 1685 '2' Arial 10 000000"));

@@ -3,10 +3,9 @@
 
 #include <gtest/gtest.h>
 
-#include "forms/printer.h"
-#include "forms/recorder.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
+#include "tests/support/printer.h"
 
 namespace {
 class BirthdayManager : public testing::Test {
@@ -139,36 +138,8 @@ TEST_F(BirthdayManager, KnowsWhetherADateSaysItsYear) {
     for (const char* without : {"7/4", "Jul 4", "07/04", ""}) EXPECT_FALSE(NamesYear(without));
 }
 
-/// A printer whose paper records what is printed.
-class Paper : public Canvas {
-  public:
-    explicit Paper(Recorder& recorder) : recorder_(recorder) {}
-    void setScale(double, double) override {}
-    double scaleWidth() const override { return 12240; }
-    double scaleHeight() const override { return 15840; }
-    void clear() override {}
-    void line(double, double, double, double, Color) override {}
-    void box(double, double, double, double, Color) override {}
-    void fillBox(double, double, double, double, Color) override {}
-    void text(double x, double y, std::string_view text, const Font& font, Color color) override {
-        recorder_.text(x, y, text, font, color);
-    }
-    double textWidth(std::string_view text, const Font& font) override { return recorder_.textWidth(text, font); }
-    double textHeight(const Font& font) override { return font.points * 20; }
-    void picture(double, double, double, double, const Path&) override {}
-    void newPage() override { recorder_.newPage(); }
-    void end() override { recorder_.end(); }
-
-  private:
-    Recorder& recorder_;
-};
-
 TEST_F(BirthdayManager, Prints42EntriesAPage) {
-    Recorder paper;
-    const PrinterCalls before = SetPrinter({[] { return std::vector<std::string>{"paper"}; },
-                                            {},
-                                            [] {},
-                                            [&](const std::string&) { return std::make_unique<Paper>(paper); }});
+    RecordedPrinter printer;
     const std::vector<std::string> entries(43, "07/04/1931\tGrandpa\t\t\t\xE0\x30");
     dialogs_.expect("Printer not found.");
     PrintBirthdayList(entries);
@@ -177,22 +148,20 @@ TEST_F(BirthdayManager, Prints42EntriesAPage) {
     PrintSelectedBirthdays({});
     dialogs_.expect("Click OK to begin printing these 2 pages. Click Cancel to exit.", Answer::Cancel);
     PrintBirthdayList(entries);
-    EXPECT_TRUE(paper.calls().empty());
+    EXPECT_EQ(printer.count(""), 0U);
     dialogs_.expect("Beginning Print Process");
     PrintBirthdayList(entries);
-    EXPECT_EQ(paper.containing("Grandpa").size(), 43U);
-    EXPECT_EQ(paper.containing("page").size(), 1U);
-    EXPECT_NE(paper.calls()[0].find("'07/04/1931' Times New Roman"), std::string::npos) << paper.calls()[0];
-    paper.clear();
+    EXPECT_EQ(printer.count("Grandpa"), 43U);
+    EXPECT_EQ(printer.count("page"), 1U);
+    EXPECT_EQ(printer.calls()[0], "text 1440 1440 '07/04/1931' Times New Roman 11 000000");
     dialogs_.expect("these 1 pages");
     PrintSelectedBirthdays(std::vector<std::string>(42, "Brown, Ana - 11/23\t\t\t\xE0\x32"));
-    EXPECT_TRUE(paper.containing("page").empty());
-    EXPECT_EQ(paper.containing("'Brown, Ana - 11/23'").size(), 42U);
-    paper.clear();
+    EXPECT_EQ(printer.count("page"), 0U);
+    EXPECT_EQ(printer.count("'Brown, Ana - 11/23'"), 42U);
+    printer.clear();
     PrintBirthdayRecord({"", "07/04"});
-    EXPECT_TRUE(paper.calls().empty());
+    EXPECT_EQ(printer.count(""), 0U);
     PrintBirthdayRecord({"Ann", "07/04/1931", true, 5, "Age = 95"});
-    EXPECT_EQ(paper.containing("Age = 95").size(), 1U);
-    SetPrinter(before);
+    EXPECT_EQ(printer.count("Age = 95"), 1U);
 }
 }  // namespace

@@ -1,0 +1,198 @@
+// The windows of holidays, birthdays and alerts, and the main window's ways to them. Today is November 22, 2026.
+#include <QTest>
+#include <memory>
+
+#include "calendar/modCalendar.h"
+#include "calendar/modNavigation.h"
+#include "calendar/modShell.h"
+#include "marks/modCategories.h"
+#include "marks/modMarkCommands.h"
+#include "reminders/frmAlert.h"
+#include "reminders/frmBDay.h"
+#include "reminders/frmHolidays.h"
+#include "reminders/modAlerts.h"
+#include "reminders/modHolidayManager.h"
+#include "shell/frmMain.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct ReminderWindows : testing::Test {
+    TemporaryFolder folder;
+    ScriptedDialogs dialogs;
+
+    ReminderWindows() { SelectDate(MakeDate(2026, 11, 22)); }
+    ~ReminderWindows() override {
+        UnloadAllWindows();
+        // What the main window filled goes with it.
+        Shell = {};
+        ShowAlertIndicator = ShowBirthdayIndicator = ShowPendingAlerts = ShowPendingBirthdays = {};
+        ShowCategoriesInMenus = ShowSelectedDateInPickers = {};
+    }
+};
+
+QString Text(const QListWidget* list, int row) { return list->item(row)->text(); }
+}  // namespace
+
+TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
+    folder.put("Holidays/2026Holidays.dat", "12/25/26:Christmas\r\n07/04/26:Fourth: fireworks\r\n");
+    auto* window = ShowWindow<frmHolidays>();
+    EXPECT_EQ(window->cmbYear->count(), 13);
+    EXPECT_EQ(window->cmbYear->currentText(), QStringLiteral("2026"));
+    EXPECT_EQ(window->txtDesc->text(), QStringLiteral("Fourth: fireworks"));
+    window->lstHolidays->setCurrentRow(1);
+    EXPECT_EQ(window->txtDate->text(), QStringLiteral("Dec 25, 2026"));
+    window->cmdAddNew->click();
+    window->txtDate->setText(QStringLiteral("1/1/2009"));
+    QTest::keyClick(window->txtDate, Qt::Key_Return);
+    window->txtDesc->setText(QString::fromUtf8("Neujahr \xE2\x98\x83"));
+    QTest::keyClick(window->txtDesc, Qt::Key_Return);
+    dialogs.expect("\xE2\x98\x83");
+    window->cmdSave->click();
+    window->txtDesc->setText(QStringLiteral("New Year"));
+    window->cmdSave->click();
+    EXPECT_EQ(Text(window->lstHolidays, 0), QStringLiteral("01/01/26:New Year"));
+    window->cmbYear->setEditText(QStringLiteral("2031"));
+    window->menus[QStringLiteral("mnuFileNew")]->trigger();
+    EXPECT_EQ(window->lstHolidays->count(), 0);
+    window->cmdDelete->click();  // nothing to remove
+    dialogs.expect("Holiday List Saved.");
+    window->close();
+}
+
+TEST_F(ReminderWindows, AMarkedHolidayIsProposedInItsOwnYear) {
+    dialogs.expect("There is no Holiday List for 2026");
+    dialogs.expect("There is no Holiday List for 2029");
+    OpenHolidayManagerFor(MakeDate(2029, 7, 4));
+    auto* window = OpenedWindow<frmHolidays>();
+    EXPECT_EQ(window->txtDate->text(), QStringLiteral("Jul 04, 2029"));
+    window->txtDesc->setText(QStringLiteral("Fourth"));
+    window->cmdSave->click();
+    EXPECT_EQ(folder.get("Holidays/2029Holidays.dat"), "07/04/29:Fourth\r\n");
+}
+
+TEST_F(ReminderWindows, BirthdaysAreSelectedSortedEditedAndDeleted) {
+    folder.put("Birthdays.dat", "01/02:00:Zoe Adler:1990\r\n03/04:-1:Ben Zorn:****\r\n05/06:09:Cy Young:1950\r\n");
+    auto* window = ShowWindow<frmBDay>();
+    EXPECT_EQ(window->windowTitle(), QStringLiteral("Birthday Management - Viewing All"));
+    EXPECT_EQ(Text(window->lstData[1], 0), QStringLiteral("01/02/1990\tZoe Adler"));
+    window->lstData[1]->setCurrentRow(0);
+    EXPECT_EQ(window->lblAge->text(), QStringLiteral("Age = 36"));
+    EXPECT_TRUE(window->optNotify[1]->isChecked());
+    window->cmdSort->click();
+    EXPECT_EQ(Text(window->lstData[2], 0), QStringLiteral("Adler, Zoe - 01/02/1990"));
+    EXPECT_TRUE(window->lstData[2]->item(0)->isSelected()) << "the selection is carried over";
+    window->lstData[2]->setCurrentRow(1);  // Young
+    EXPECT_TRUE(
+        std::none_of(window->optNotify.begin(), window->optNotify.end(), [](auto* o) { return o->isChecked(); }));
+    window->txt[0]->setText(QStringLiteral("Cy Younger"));
+    window->cmdSave->click();  // the first save is silent
+    EXPECT_EQ(folder.get("Birthdays.dat"),
+              "01/02:00:Zoe Adler:1990\r\n03/04:-1:Ben Zorn:****\r\n05/06:09:Cy Younger:1950\r\n");
+    window->cmdClear->click();
+    dialogs.expect("Nothing selected to delete.");
+    window->cmdDelete->click();
+    window->lstData[2]->selectAll();
+    dialogs.expect("multiple items?", Answer::Yes);
+    window->cmdDelete->click();
+    EXPECT_FALSE(folder.has("Birthdays.dat"));
+    dialogs.expect("Birthday List Saved.");
+    window->close();
+}
+
+TEST_F(ReminderWindows, LeavingABirthdayWithoutAYearForgetsTheAge) {
+    OpenBirthdayManagerFor(MakeDate(2026, 7, 4));
+    auto* window = OpenedWindow<frmBDay>();
+    EXPECT_EQ(window->txt[1]->text(), QStringLiteral("07/04"));
+    EXPECT_FALSE(window->chkRememberAge->isChecked());
+    window->menus[QStringLiteral("mnuFileNew")]->trigger();
+    EXPECT_TRUE(window->chkRememberAge->isChecked());
+    window->activateWindow();
+    const auto leave = [&](const char* date) {
+        window->txt[1]->setFocus();
+        window->txt[1]->setText(QString::fromLatin1(date));
+        window->cmdClear->setFocus();
+        QTest::qWait(10);
+    };
+    leave("7/4/1990");
+    EXPECT_TRUE(window->chkRememberAge->isChecked());
+    leave("7/4");
+    EXPECT_FALSE(window->chkRememberAge->isChecked());
+    dialogs.expect("Invalid Date");
+    leave("");
+}
+
+TEST_F(ReminderWindows, AlertsAreEnteredWithDateBoxesAndPeriods) {
+    auto* window = ShowWindow<frmAlert>();
+    EXPECT_EQ(window->lblMain->text(), QStringLiteral("Adding New Alert"));
+    EXPECT_EQ(window->cmbYear->currentText(), QStringLiteral("2026"));
+    window->optValue[5]->click();
+    EXPECT_EQ(window->txtValue->text(), QStringLiteral("10"));
+    window->txtValue->setText(QStringLiteral("3"));
+    EXPECT_TRUE(window->optValue[2]->isChecked());
+    window->txtValue->clear();
+    QTest::keyClicks(window->txtValue, QStringLiteral("12a345"));
+    EXPECT_EQ(window->txtValue->text(), QStringLiteral("1234"));
+    window->cmbYear->setEditText(QStringLiteral("2035"));
+    Q_EMIT window->cmbMonth->textActivated(QString());
+    EXPECT_EQ(window->txtDate->text(), QStringLiteral("11/22/35"));
+    window->txtMessage->setPlainText(QStringLiteral("one\ntwo"));
+    dialogs.expect("Alert List Updated.");
+    window->cmdSave[1]->click();
+    EXPECT_EQ(folder.get("Alerts.dat"), "49635:1234:one\xD5\xD2two\r\n");
+    EXPECT_EQ(OpenedWindow<frmAlert>(), nullptr) << "Save and Exit closes";
+}
+
+TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
+    folder.put("Alerts.dat", "46340:0003:Gone\r\n46350:0004:Soon\r\n");
+    ReadAlerts();
+    OpenAlertManager(true);
+    auto* window = OpenedWindow<frmAlert>();
+    EXPECT_EQ(window->lblList->text(), QStringLiteral("Active Alert List: 1 Alerts"));
+    window->menus[QStringLiteral("mnuViewAll")]->trigger();
+    window->menus[QStringLiteral("mnuSortMessage")]->trigger();
+    EXPECT_TRUE(window->lstAlerts[2]->isVisible());
+    window->lstAlerts[2]->setCurrentRow(1);
+    EXPECT_EQ(window->txtMessage->toPlainText(), QStringLiteral("Soon"));
+    EXPECT_EQ(window->txtValue->text(), QStringLiteral("4"));
+    EXPECT_TRUE(std::none_of(window->optValue.begin(), window->optValue.end(), [](auto* o) { return o->isChecked(); }));
+    window->menus[QStringLiteral("mnuFileNew")]->trigger();
+    window->txtMessage->setPlainText(QStringLiteral("typed"));
+    window->menus[QStringLiteral("mnuSortDate")]->trigger();
+    window->menus[QStringLiteral("mnuViewPending")]->trigger();
+    OpenAlertManagerFor(MakeDate(2026, 12, 1));
+    EXPECT_EQ(window->txtMessage->toPlainText(), QStringLiteral("typed")) << "what is being typed stays";
+    EXPECT_EQ(window->txtDate->text(), QStringLiteral("12/01/26"));
+    dialogs.expect("Backup");
+    window->menus[QStringLiteral("mnuOptDeleteOldAlerts")]->trigger();
+    EXPECT_EQ(folder.get("Alerts.dat"), "46350:0004:Soon\r\n");
+    window->menus[QStringLiteral("mnuFileExit")]->trigger();
+    EXPECT_EQ(OpenedWindow<frmAlert>(), nullptr);
+}
+
+TEST_F(ReminderWindows, TheMainWindowShowsWhatIsPending) {
+    folder.put("Alerts.dat", "46350:0004:Soon\r\n");
+    folder.put("Birthdays.dat", "11/24:03:Ann:****\r\n");
+    folder.put("Marker Colors.dat", "");
+    dialogs.expect("ReadMarkerColors");
+    dialogs.expect("UserPreferences");
+    frmMain& main = *new frmMain;
+    main.startUp();
+    main.lstAlerts->setCurrentRow(0);
+    EXPECT_EQ(main.lblAlertDate->text(), QStringLiteral("Alert Date = 11/24/26"));
+    main.lstBirthdays->setCurrentRow(0);
+    EXPECT_EQ(main.lblBirthdayDate->text(), QStringLiteral("Date = 11/24/26"));
+    EXPECT_EQ(main.imgBDay->toolTip(), QStringLiteral("1 Birthday is Pending"));
+    QTest::mouseClick(main.cmdAlert, Qt::RightButton);
+    EXPECT_EQ(main.cmdAlert->text(), QStringLiteral("Alerts Ignored"));
+    QTest::mouseClick(main.cmdAlert, Qt::LeftButton);
+    ASSERT_NE(OpenedWindow<frmAlert>(), nullptr);
+    EXPECT_TRUE(ViewPendingAlerts);
+    OpenedWindow<frmAlert>()->close();
+    main.item(QStringLiteral("mnuOptDateSetAlert"))->trigger();
+    EXPECT_EQ(OpenedWindow<frmAlert>()->lblMain->text(), QStringLiteral("Adding New Alert"));
+    main.imgBDay->click();
+    EXPECT_EQ(OpenedWindow<frmBDay>()->lstData[1]->count(), 1);
+    OpenBirthdayManager(MakeDate(2026, 12, 24));
+    EXPECT_EQ(OpenedWindow<frmBDay>()->txt[1]->text(), QStringLiteral("12/24"));
+}
