@@ -150,8 +150,8 @@ TEST(ToDo, PrintsEachControlAtItsPlace) {
     EXPECT_TRUE(has("box 840 1665 1080 1905 000000"));
     EXPECT_TRUE(has("text 1200 1685 '2' Arial 10 000000"));
     EXPECT_TRUE(has("text 1560 1715 'Water the plants' Arial 10 000000"));
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("box"); }), ToDoRows);
-    EXPECT_EQ(std::count_if(calls.begin(), calls.end(), [](auto& call) { return call.starts_with("line"); }), 2);
+    EXPECT_EQ(printer.count("box "), std::size_t{ToDoRows});
+    EXPECT_EQ(printer.count("line "), 2U);
     EXPECT_TRUE(has("text 1560 2110.2 '" + std::string(200, 'x') + "' Arial 4.98 000000")) << "fits the page";
-    EXPECT_EQ(calls.back(), "end");
+    EXPECT_EQ(printer.calls().back(), "end");
 }

@@ -3,7 +3,6 @@
 #include <memory>
 
 #include "calendar/modCalendar.h"
-#include "calendar/modNavigation.h"
 #include "calendar/modShell.h"
 #include "marks/modCategories.h"
 #include "marks/modMarkCommands.h"
@@ -27,7 +26,7 @@ struct ReminderWindows : testing::Test {
         // What the main window filled goes with it.
         Shell = {};
         ShowAlertIndicator = ShowBirthdayIndicator = ShowPendingAlerts = ShowPendingBirthdays = {};
-        ShowCategoriesInMenus = ShowSelectedDateInPickers = {};
+        ShowCategoriesInMenus = {};
     }
 };
 
@@ -171,11 +170,9 @@ TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
 }
 
 TEST_F(ReminderWindows, TheMainWindowShowsWhatIsPending) {
+    std::filesystem::copy(TASMORO_DATA, folder.path());
     folder.put("Alerts.dat", "46350:0004:Soon\r\n");
     folder.put("Birthdays.dat", "11/24:03:Ann:****\r\n");
-    folder.put("Marker Colors.dat", "");
-    dialogs.expect("ReadMarkerColors");
-    dialogs.expect("UserPreferences");
     frmMain& main = *new frmMain;
     main.startUp();
     main.lstAlerts->setCurrentRow(0);
