@@ -60,7 +60,7 @@ void SetDataFolder(const Path& folder) { Folder = folder.has_filename() ? folder
 Path YearFolder(int year) { return PathInFolder(DataFolder(), Padded(year, 4)); }
 
 Path PathInFolder(const Path& folder, std::string_view name) {
-    const Path wanted = folder / PathOfText(name);
+    Path wanted = folder / PathOfText(name);
     std::error_code failure;
     if (fs::exists(wanted, failure)) return wanted;
     return FindIgnoringCase(folder, name).value_or(wanted);
@@ -123,7 +123,7 @@ std::string CopiedIfUnknown(const Path& path, std::string_view replacement = {})
         if (bytes.empty() || bytes == replacement) return {};
         const auto known = KnownFiles.find(KeyOf(path));
         if (known != KnownFiles.end() && known->second == bytes) return {};
-        const std::string told = CopyBytesToBackup(path, bytes);
+        std::string told = CopyBytesToBackup(path, bytes);
         MarkFullyRead(path, bytes);
         return told;
     } catch (const std::exception& failed) {
@@ -134,7 +134,7 @@ std::string CopiedIfUnknown(const Path& path, std::string_view replacement = {})
 /// Copies what is unknown of the file, then runs `change`. The sentence of the copy is told also if the change fails.
 template <class Change>
 std::string Guarded(const Path& path, std::string_view replacement, Change&& change) {
-    const std::string told = CopiedIfUnknown(path, replacement);
+    std::string told = CopiedIfUnknown(path, replacement);
     try {
         change();
     } catch (const Error& error) {

@@ -41,7 +41,8 @@ class Grid {
   private:
     static std::size_t indexOf(Cell cell) {
         if (!cell.valid()) throw Error(SubscriptOutOfRange);
-        return static_cast<std::size_t>((cell.month * ColumnsInGrid + cell.column) * RowsInGrid + cell.row);
+        const auto index = [](int part) { return static_cast<std::size_t>(part); };
+        return (index(cell.month) * ColumnsInGrid + index(cell.column)) * RowsInGrid + index(cell.row);
     }
     std::array<Value, MonthsInGrid * ColumnsInGrid * RowsInGrid> values_{};
 };
