@@ -1,0 +1,43 @@
+// The window in which a term is changed.
+#include "notes/frmEditFUT.h"
+
+#include <QBoxLayout>
+#include <QShortcut>
+
+#include "forms/qt/text.h"
+#include "notes/modFUT.h"
+
+frmEditFUT::frmEditFUT() : Window("frmEditFUT", QStringLiteral("Edit Frequently Used Term")) {
+    const QString prompt = QStringLiteral("Edit Term Below");
+    lblEditFUT = Named(new QLabel(prompt), QStringLiteral("lblEditFUT"));
+    txtEditFUT = Named(new QLineEdit, QStringLiteral("txtEditFUT"), prompt);
+    lblEditFUT->setBuddy(txtEditFUT);
+    cmdSave = Named(new QPushButton(QStringLiteral("&Save Changes")), QStringLiteral("cmdSave"),
+                    QStringLiteral("Save Changes"));
+    cmdExit = Named(new QPushButton(QStringLiteral("&Cancel/Exit")), QStringLiteral("cmdExit"),
+                    QStringLiteral("Cancel/Exit"));
+    auto* buttons = new QHBoxLayout;
+    for (QPushButton* button : {cmdSave, cmdExit}) buttons->addWidget(button);
+    auto* all = new QVBoxLayout(this);
+    all->addWidget(lblEditFUT);
+    all->addWidget(txtEditFUT);
+    all->addStretch(1);
+    all->addLayout(buttons);
+    resize(Pixels(5400), sizeHint().height());
+    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    connect(txtEditFUT, &QLineEdit::returnPressed, this, [this] { cmdSave_Click(); });
+    connect(cmdExit, &QPushButton::clicked, this, [this] { close(); });
+    connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
+}
+
+void frmEditFUT::edit(const std::string& term) {
+    term_ = term;
+    txtEditFUT->setText(FromText(term));
+    txtEditFUT->selectAll();
+    txtEditFUT->setFocus();
+}
+
+void frmEditFUT::cmdSave_Click() {
+    const auto text = TextToSave(txtEditFUT->text());
+    if (text && ChangeTerm(term_, *text)) close();
+}
