@@ -25,9 +25,7 @@ constexpr int ListMargin = Pixels(75);
 constexpr int PanelGap = Pixels(210);
 constexpr int SmallestHeight = Pixels(2000);  // of a window whose lists can still be used
 
-void SelectOnly(QListWidget* list, int row) {
-    list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect);
-}
+void SelectOnly(QListWidget* list, int row) { list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect); }
 }  // namespace
 
 // -- The list -------------------------------------------------------------------------------------------------------
@@ -64,8 +62,7 @@ frmFUT::frmFUT() : Window("frmFUT", QStringLiteral("Frequent Terms")) {
     buildMenus();
     layOut();
     ShowTerms = [this] { showTerms(); };
-    // A list whose terms stand in another case, or are not saved yet, is not read over.
-    if (Terms.file.empty() || Terms.file != CurrentTermsFile || !Terms.newFile) ReadTermsOnOpening();
+    ReadTermsOnOpening();
     showTerms();
 }
 
@@ -106,21 +103,20 @@ void frmFUT::buildMenus() {
     const QString file = QStringLiteral("mnuFile");
     const QString edit = QStringLiteral("mnuEdit");
     const QString window = QStringLiteral("mnuWindow");
-    menus_.build(new QMenuBar(this),
-                 {{file, QStringLiteral("&File"), {}},
-                  {QStringLiteral("mnuFileShowAll"), QStringLiteral("Show All Frequent Terms Files"), file,
-                   ShowTermsFiles},
-                  {QStringLiteral("mnuFileNewFUT"), QStringLiteral("Create &New Frequent Terms File"), file,
-                   [this] { mnuFileNewFUT_Click(); }},
-                  {QStringLiteral("mnuFileDelete"), QStringLiteral("Delete this Frequent Terms List"), file,
-                   DeleteTermsFile},
-                  {QStringLiteral("mnuFileDefaultFUT"), QStringLiteral("Make this the Default Frequent Terms List"),
-                   file, MakeTermsFileDefault},
-                  {edit, QStringLiteral("&Edit"), {}},
-                  {QStringLiteral("mnuEditClear"), QStringLiteral("Delete all Items in this List"), edit, ClearTerms},
-                  {window, QStringLiteral("&Window"), {}},
-                  {QStringLiteral("mnuWindowSavePosition"), QStringLiteral("Save Window Position and Size"), window,
-                   [this] { mnuWindowSavePosition_Click(); }}});
+    menus_.build(
+        new QMenuBar(this),
+        {{file, QStringLiteral("&File"), {}},
+         {QStringLiteral("mnuFileShowAll"), QStringLiteral("Show All Frequent Terms Files"), file, ShowTermsFiles},
+         {QStringLiteral("mnuFileNewFUT"), QStringLiteral("Create &New Frequent Terms File"), file,
+          [this] { mnuFileNewFUT_Click(); }},
+         {QStringLiteral("mnuFileDelete"), QStringLiteral("Delete this Frequent Terms List"), file, DeleteTermsFile},
+         {QStringLiteral("mnuFileDefaultFUT"), QStringLiteral("Make this the Default Frequent Terms List"), file,
+          MakeTermsFileDefault},
+         {edit, QStringLiteral("&Edit"), {}},
+         {QStringLiteral("mnuEditClear"), QStringLiteral("Delete all Items in this List"), edit, ClearTerms},
+         {window, QStringLiteral("&Window"), {}},
+         {QStringLiteral("mnuWindowSavePosition"), QStringLiteral("Save Window Position and Size"), window,
+          [this] { mnuWindowSavePosition_Click(); }}});
 }
 
 void frmFUT::layOut() {
@@ -153,7 +149,7 @@ void frmFUT::showTerms() {
     const bool wasChoosing = lstMoreFUT->isVisibleTo(this);
     lstFUT->setVisible(!Terms.choosing);
     lstMoreFUT->setVisible(Terms.choosing);
-    for (const char* name : {"mnuFile", "mnuFileDelete"}) menus_.enable(QString::fromLatin1(name), !Terms.choosing);
+    for (const char* menu : {"mnuFile", "mnuFileDelete"}) menus_.enable(QString::fromLatin1(menu), !Terms.choosing);
     if (!Terms.choosing) {
         ShowEntries(lstFUT, Terms.listed);
         return;
@@ -262,7 +258,8 @@ void frmFUT::resizeEvent(QResizeEvent* event) {
     Window::resizeEvent(event);
     if (!placed_ || isMinimized() || !isVisible()) return;
     rememberPlace();
-    const int smallest = std::max(SmallestHeight, layout()->minimumSize().height() - lstFUT->minimumSizeHint().height());
+    const int smallest =
+        std::max(SmallestHeight, layout()->minimumSize().height() - lstFUT->minimumSizeHint().height());
     if (height() < smallest) {
         QTimer::singleShot(0, this, [this] { tellTooSmall(); });
         return;

@@ -129,8 +129,8 @@ bool NoteTextBox::takesSuggestion(const QKeyEvent& event) {
     const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
     const bool control = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier);
     const int key = event.key();
-    const bool taken = IsEnter(key) || key == Qt::Key_Right || (key == Qt::Key_Insert && !shift) ||
-                       (key == Qt::Key_Space && shift);
+    const bool taken =
+        IsEnter(key) || key == Qt::Key_Right || (key == Qt::Key_Insert && !shift) || (key == Qt::Key_Space && shift);
     if (!taken || control || !AutoCompleteOn || !SuggestionShowing) return false;
     setCaret(SuggestionEnd);
     SuggestionGone();
@@ -189,8 +189,7 @@ void NoteTextBox::inputMethodEvent(QInputMethodEvent* event) {
     const bool composes = !event->preeditString().isEmpty();
     if (composes || !event->commitString().isEmpty() || event->replacementLength() > 0) retractSuggestion();
     QPlainTextEdit::inputMethodEvent(event);
-    if (!composes && !event->commitString().contains(u'\n'))
-        offerTerm(static_cast<int>(event->commitString().size()));
+    if (!composes && !event->commitString().contains(u'\n')) offerTerm(static_cast<int>(event->commitString().size()));
 }
 
 void NoteTextBox::insertFromMimeData(const QMimeData* source) {

@@ -63,18 +63,18 @@ void frmNotes::buildMenus() {
     const QString file = QStringLiteral("mnuFile");
     const QString edit = QStringLiteral("mnuEdit");
     const QString preferences = QStringLiteral("mnuPref");
-    menus_.build(new QMenuBar(this),
-                 {{file, QStringLiteral("&File"), {}},
-                  {QStringLiteral("mnuFileSave"), QStringLiteral("&Save"), file, [this] { save(); }, false,
-                   QKeySequence::Save},
-                  {QStringLiteral("mnuFilePrint"), QStringLiteral("&Print"), file, [this] { mnuFilePrint_Click(); },
-                   false, QKeySequence::Print},
-                  {edit, QStringLiteral("&Edit"), {}},
-                  {QStringLiteral("mnuEditSearchAgain"), QStringLiteral("Search A&gain"), edit,
-                   [this] { mnuEditSearchAgain_Click(); }, false, QKeySequence(Qt::CTRL | Qt::Key_G)},
-                  {preferences, QStringLiteral("&Preferences"), {}},
-                  {QStringLiteral("mnuPrefFut"), QStringLiteral("Adjust &FUT Preferences"), preferences,
-                   [] { ShowWindow<frmPref>(); }}});
+    menus_.build(
+        new QMenuBar(this),
+        {{file, QStringLiteral("&File"), {}},
+         {QStringLiteral("mnuFileSave"), QStringLiteral("&Save"), file, [this] { save(); }, false, QKeySequence::Save},
+         {QStringLiteral("mnuFilePrint"), QStringLiteral("&Print"), file, [this] { mnuFilePrint_Click(); }, false,
+          QKeySequence::Print},
+         {edit, QStringLiteral("&Edit"), {}},
+         {QStringLiteral("mnuEditSearchAgain"), QStringLiteral("Search A&gain"), edit,
+          [this] { mnuEditSearchAgain_Click(); }, false, QKeySequence(Qt::CTRL | Qt::Key_G)},
+         {preferences, QStringLiteral("&Preferences"), {}},
+         {QStringLiteral("mnuPrefFut"), QStringLiteral("Adjust &FUT Preferences"), preferences,
+          [] { ShowWindow<frmPref>(); }}});
 }
 
 // -- The note -------------------------------------------------------------------------------------------------------
@@ -112,8 +112,8 @@ bool frmNotes::queryUnload() {
     if (busy_) return false;
     if (!NotesChanged) return true;
     QScopedValueRollback busy(busy_, true);
-    const Answer answer = Ask("Text has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-                              "Text Has Been Changed.");
+    const Answer answer =
+        Ask("Text has been changed. Do you want to save the changes?", Buttons::YesNoCancel, "Text Has Been Changed.");
     if (answer == Answer::Cancel) return false;
     if (answer == Answer::Yes) return save();
     NotesChanged = false;

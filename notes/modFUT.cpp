@@ -99,6 +99,7 @@ void ReadFrequentlyUsedTerms() {
 }
 
 void ReadTermsOnOpening() {
+    if (NewTermsFile) return;  // its file may still hold the terms of the list that it replaces
     if (CurrentTermsFile.empty()) CurrentTermsFile = Preferences.termsFile;
     if (CurrentTermsFile.empty()) return;
     if (!FileExists(DataFolder(), CurrentTermsFile) && FileExists(DataFolder(), Preferences.termsFile))
