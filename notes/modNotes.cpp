@@ -10,13 +10,12 @@
 #include "base/modNoCase.h"
 #include "base/state.h"
 #include "base/text.h"
+#include "calendar/modShell.h"
 #include "marks/modSaveChanges.h"
 #include "shell/modErrors.h"
 
 NotesState Notes;
 NoteEditorCalls NoteEditor;
-std::function<void()> ShowSelectedDateInPickers;
-std::function<void(Year)> NotesWereRead;
 
 namespace {
 const ClearedAtStart ClearNotes([] { Notes = {}; });
@@ -61,11 +60,6 @@ void Read(Year slot) {
                                             " of the file \"" + folder.filename().string() + "\\" + NotesFile + "\")");
         }
     });
-}
-
-void ReadAndTell(const char* procedure, Year slot) {
-    Reporting(procedure, [slot] { Read(slot); });
-    if (NotesWereRead) NotesWereRead(slot);
 }
 
 // -- Saving ---------------------------------------------------------------------------------------------------------
@@ -173,8 +167,12 @@ void OpenEditor(Year slot) {
 }
 }  // namespace
 
-void ReadThisYearsNotes() { ReadAndTell("ReadThisYearsNotes", ThisYear); }
-void ReadNextYearsNotes() { ReadAndTell("ReadNextYearsNotes", NextYear); }
+void ReadThisYearsNotes() {
+    Reporting("ReadThisYearsNotes", [] { Read(ThisYear); });
+}
+void ReadNextYearsNotes() {
+    Reporting("ReadNextYearsNotes", [] { Read(NextYear); });
+}
 bool SaveThisYearsNotes() { return SaveAndReport("SaveThisYearsNotes", ThisYear); }
 bool SaveNextYearsNotes() { return SaveAndReport("SaveNextYearsNotes", NextYear); }
 
@@ -232,7 +230,7 @@ void DisplayThisNote() {
         const Year slot = SlotOf(date);
         SelectDate(date);
         HoldYear(slot);
-        if (ShowSelectedDateInPickers) ShowSelectedDateInPickers();
+        Tell(Shell.showInPickers, SelectedDate);
         OpenEditor(slot);
     });
 }

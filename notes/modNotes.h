@@ -96,7 +96,7 @@ void DisplayThisNote();
 /// program changes; sets SaveCancelled for Cancel. Fills AskAboutNotes.
 void AskAboutOpenNote(bool programEnds);
 
-// -- Filled by the windows ------------------------------------------------------------------------------------------
+// -- Filled by the window ------------------------------------------------------------------------------------------
 
 /// The editor as the store needs it. Without a window the calls do nothing, and the editor is closed.
 struct NoteEditorCalls {
@@ -109,9 +109,3 @@ struct NoteEditorCalls {
     std::function<std::optional<std::string>()> textToSave;
 };
 extern NoteEditorCalls NoteEditor;
-
-/// Shows SelectedDate in the pickers of the main window.
-extern std::function<void()> ShowSelectedDateInPickers;
-
-/// A slot's notes were read: the views that show which days have one may follow.
-extern std::function<void(Year slot)> NotesWereRead;

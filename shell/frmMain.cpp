@@ -25,6 +25,7 @@
 #include "marks/modMarkCommands.h"
 #include "marks/modSaveChanges.h"
 #include "notes/frmHelpPanel.h"
+#include "notes/frmNotes.h"
 #include "notes/frmToDoPanel.h"
 #include "notes/modHelp.h"
 #include "notes/modNotes.h"
@@ -273,7 +274,6 @@ void frmMain::fillShellCalls() {
     Shell.layOutMonth = [](bool templateMode) {
         if (auto* month = OpenedWindow<frmMonth>()) month->setTemplateMode(templateMode);
     };
-    ShowSelectedDateInPickers = [] { Tell(Shell.showInPickers, SelectedDate); };
     Shell.popUpDateOptions = [this] { menus_.menu(QStringLiteral("mnuDateOptions"))->popup(QCursor::pos()); };
 }
 
@@ -327,6 +327,7 @@ void frmMain::sizeToScreen() {
 }
 
 void frmMain::startUp() {
+    InstallNoteEditor();
     LoadPlanner();
     Tell(Shell.showInPickers, SelectedDate);
     Show1YearCalendar();

@@ -8,8 +8,11 @@
 #include "marks/modHoverText.h"
 #include "marks/modMarkCommands.h"
 #include "marks/modMarkerDisplay.h"
+#include "notes/frmFUT.h"
 #include "notes/frmHelp.h"
+#include "notes/frmNoteList.h"
 #include "notes/frmPref.h"
+#include "notes/frmSearch.h"
 #include "notes/frmToDo.h"
 #include "reminders/frmAlert.h"
 #include "reminders/frmBDay.h"
@@ -63,14 +66,15 @@ Table FileItems() {
         With("mnuFileSaveCalendar", "Save This Month's Icons", "mnuFileSave", {}),
         With("mnuFilePrintCalendar", "&Print 1 Month Calendar", "mnuFile", {}),
         With("mnuFilePrintCalendarNoIcons", "Print 1 Month Calendar &Without Icons", "mnuFile", {}),
-        With("mnuFileOpenFUT", "Open &Frequently Used Terms", "mnuFile", {}),
+        With("mnuFileOpenFUT", "Open &Frequently Used Terms", "mnuFile", [] { OpenTermsWindow(true); }),
     };
 }
 
 Table EditItems() {
     Table table{
         Without("mnuEdit", "&Edit", ""),
-        With("mnuEditFind", "&Find", "mnuEdit", {}),
+        With(
+            "mnuEditFind", "&Find", "mnuEdit", [] { ShowWindow<frmSearch>(); }, QKeySequence::Find),
         With("mnuEditDeleteMarks", "Delete this Years Marks", "mnuEdit", DeleteThisYearsMarks),
         Without("mnuEditDiplayedMarks", "Displayed Marks", "mnuEdit"),
         With("mnuEditMarksHideAll", "Hide (Uncheck) All Marks", "mnuEditDiplayedMarks", HideAllMarks),
@@ -118,7 +122,8 @@ Table DateItems() {
         {
             With("mnuOptDateClearMark", "Clear Mark from Selected Date", "mnuDateOptions", ClearMarkFromSelectedDate),
             With("mnuOptDateAttachHoverText", "Attach Mouse Over (Hover) Note", "mnuDateOptions", AttachHoverText),
-            With("mnuOptDateOpenNotes", "Open Notes for Selected Date", "mnuDateOptions", {}),
+            With("mnuOptDateOpenNotes", "Open Notes for Selected Date", "mnuDateOptions",
+                 [] { OpenNotesOfPickers("mnuOptDateOpenNotes_Click"); }),
             With("mnuOptDateSetAlert", "Set Alert for Selected Date", "mnuDateOptions",
                  [] { OpenAlertManagerFor(SelectedDate); }),
             Without("mnuOptDateViewAlert", "View Alert for Selected Date", "mnuDateOptions"),
@@ -149,13 +154,13 @@ Table ManageItems() {
     return {
         Without("mnuManage", "&Manage", ""),
         With("mnuManageAlerts", "Alerts", "mnuManage", [] { OpenAlertManager(false); }),
-        With("mnuManageNotes", "Notes", "mnuManage", {}),
+        With("mnuManageNotes", "Notes", "mnuManage", [] { ShowWindow<frmNoteList>(); }),
         With("mnuManageToDo", "To Do List", "mnuManage", OpenToDoList),
         With("mnuManageHolidays", "Holidays", "mnuManage", [] { ShowWindow<frmHolidays>(); }),
         With("mnuManageBDays", "Birthdays", "mnuManage", [] { ShowWindow<frmBDay>(); }),
         With("mnuManageIcons", "Insertable Icons", "mnuManage", {}),
         Without("mnuManageFUT", "Frequently Used Terms", "mnuManage"),
-        With("mnuManageFUTList", "Edit List", "mnuManageFUT", {}),
+        With("mnuManageFUTList", "Edit List", "mnuManageFUT", [] { OpenTermsWindow(true); }),
         With("mnuManageFUTPreferences", "Edit Preferences", "mnuManageFUT", [] { ShowWindow<frmPref>(); }),
         Without("mnuManageBudget", "Monthly Budget", "mnuManage"),
         Without("mnuManageMarkers", "Date Markers", "mnuManage"),

@@ -11,6 +11,7 @@
 #include "forms/printer.h"
 #include "marks/modCategories.h"
 #include "marks/modSaveChanges.h"
+#include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "reminders/modAlerts.h"
 #include "reminders/modBirthdays.h"
@@ -21,6 +22,7 @@ void LoadPlanner() {
     ClearAllState();
     InstallViews();
     GetUserPreferences();
+    ReadTermsOnOpening();
     CheckPrinter();
     Calendar.startedOn = Today();
     Calendar.yearOnDisplay = YearOf(Today());
