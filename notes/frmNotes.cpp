@@ -48,6 +48,7 @@ frmNotes::frmNotes() : Window("frmNotes", QStringLiteral("Notes")) {
     all->addWidget(cmdFormat, 0, Qt::AlignLeft);
     resize(Pixels(9600), Pixels(7200));
     connect(txtNotes, &QPlainTextEdit::textChanged, this, [this] { txtNotes_Change(); });
+    connect(cmdFormat, &QPushButton::clicked, this, [this] { cmdFormat_Click(); });
     connect(txtNotes, &NoteTextBox::termDropped, this, [this] { txtNotes_DragDrop(); });
 
     ReadTermsOnOpening();

@@ -73,14 +73,16 @@ TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
     };
     open();
     for (const Row& row :
-         {Row{"ne", Qt::Key_unknown, Qt::NoModifier, "ne[w york]"}, Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New York|"},
-          Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW YORK|"}, Row{"iP", Qt::Key_Insert, Qt::NoModifier, "iPhone|"},
-          Row{"b", Qt::Key_Return, Qt::NoModifier, "budget|"}, Row{"b", Qt::Key_Space, Qt::ShiftModifier, "budget |"},
-          Row{"b", Qt::Key_Space, Qt::NoModifier, "b |"}, Row{"bu", Qt::Key_Backspace, Qt::NoModifier, "bu|"},
-          Row{"bu", Qt::Key_Delete, Qt::NoModifier, "bu|"}, Row{"bu", Qt::Key_Z, Qt::ControlModifier, "bu|"},
-          Row{"nEw", Qt::Key_unknown, Qt::NoModifier, "New[ York]"}, Row{"nEw", Qt::Key_Z, Qt::ControlModifier, "nEw|"},
-          Row{"nEw", Qt::Key_X, Qt::NoModifier, "nEwx|"}, Row{"bx", Qt::Key_Return, Qt::NoModifier, "bx\n|"},
-          Row{"bx", Qt::Key_Return, Qt::ShiftModifier, "bx\n|"}, Row{"budge", Qt::Key_T, Qt::NoModifier, "budget|"},
+         {Row{"ne", Qt::Key_unknown, Qt::NoModifier, "ne[w york]"},
+          Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New York|"},
+          Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW YORK|"},
+          Row{"iP", Qt::Key_Insert, Qt::NoModifier, "iPhone|"}, Row{"b", Qt::Key_Return, Qt::NoModifier, "budget|"},
+          Row{"b", Qt::Key_Space, Qt::ShiftModifier, "budget |"}, Row{"b", Qt::Key_Space, Qt::NoModifier, "b |"},
+          Row{"bu", Qt::Key_Backspace, Qt::NoModifier, "bu|"}, Row{"bu", Qt::Key_Delete, Qt::NoModifier, "bu|"},
+          Row{"bu", Qt::Key_Z, Qt::ControlModifier, "bu|"}, Row{"nEw", Qt::Key_unknown, Qt::NoModifier, "New[ York]"},
+          Row{"nEw", Qt::Key_Z, Qt::ControlModifier, "nEw|"}, Row{"nEw", Qt::Key_X, Qt::NoModifier, "nEwx|"},
+          Row{"bx", Qt::Key_Return, Qt::NoModifier, "bx\n|"}, Row{"bx", Qt::Key_Return, Qt::ShiftModifier, "bx\n|"},
+          Row{"budge", Qt::Key_T, Qt::NoModifier, "budget|"},
           Row{"new y", Qt::Key_Right, Qt::NoModifier, "new york|"}}) {
         box->showNote("");
         type(row.typed);
@@ -117,8 +119,7 @@ TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
     AutoCompleteOn = false;
     type(" b");
     EXPECT_EQ(shown(), "bud b|");
-    press(Qt::Key_Z, Qt::ControlModifier);
-    press(Qt::Key_Z, Qt::ControlModifier);
+    while (box->document()->isUndoAvailable()) press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(shown(), "|");
     NotesChanged = false;
 }
@@ -198,12 +199,15 @@ TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {
     open();
     type("x");
     window->cmdFormat->click();
-    EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n"));
+    EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n")) << shown();
     EXPECT_EQ(box->document()->blockCount(), 2 + 72);
     QMimeData carried;
     carried.setData(QLatin1String(DraggedTermType), "vet");
     const auto drop = [&] {
         DraggedTerm = "vet";
+        QDragEnterEvent enters(QPoint(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(box->viewport(), &enters);
+        EXPECT_TRUE(enters.isAccepted());
         QDropEvent event(QPointF(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
         QApplication::sendEvent(box->viewport(), &event);
         return shown();
@@ -231,7 +235,7 @@ TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
     for (const QString& line : pages.join(QString()).split(u'\n', Qt::SkipEmptyParts)) printed << line.simplified();
     QStringList wrapped;
     for (const QString& line : box->wrappedLines()) wrapped << line.simplified();
-    EXPECT_GT(wrapped.size(), 75);
+    EXPECT_GT(wrapped.size(), 73);
     EXPECT_EQ(printed.mid(1), wrapped);
     NotesChanged = false;
 }
