@@ -3,8 +3,10 @@
 
 #include <QBoxLayout>
 #include <QMenuBar>
+#include <QPainter>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStyledItemDelegate>
 #include <algorithm>
 
 #include "base/dialogs.h"
@@ -18,6 +20,29 @@ std::size_t At(int index) { return static_cast<std::size_t>(index); }
 constexpr std::array<const char*, 7> PeriodCaptions{
     "Do Not Alert Me",      "On the Same Day",      "1 Day Ahead of Time",  "3 Days Ahead of Time",
     "5 Days Ahead of Time", "7 Days Ahead of Time", "10 Days Ahead of Time"};
+
+/// Shows "date, tab, name" in two columns that line up in every font.
+class DateAndName : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem shown = option;
+        initStyleOption(&shown, index);
+        const QString name = shown.text.section(QLatin1Char('\t'), 1);
+        shown.text = shown.text.section(QLatin1Char('\t'), 0, 0);
+        const QStyle* style = shown.widget->style();
+        style->drawControl(QStyle::CE_ItemViewItem, &shown, painter, shown.widget);
+        QRect column = style->subElementRect(QStyle::SE_ItemViewItemText, &shown, shown.widget);
+        column.setLeft(column.left() + shown.fontMetrics.horizontalAdvance(QStringLiteral("00/00/0000    ")));
+        column.setRight(shown.rect.right());
+        const bool selected = shown.state.testFlag(QStyle::State_Selected);
+        painter->setFont(shown.font);
+        style->drawItemText(painter, column, Qt::AlignLeft | Qt::AlignVCenter, shown.palette, true,
+                            shown.fontMetrics.elidedText(name, Qt::ElideRight, column.width()),
+                            selected ? QPalette::HighlightedText : QPalette::Text);
+    }
+};
 }  // namespace
 
 frmBDay::frmBDay() : Window("frmBDay", QStringLiteral("Birthday Management")) {
@@ -72,6 +97,7 @@ void frmBDay::makeLists() {
         connect(list, &QListWidget::itemSelectionChanged, this, [this, element] { lstData_Click(element); });
         lstData[At(element)] = list;
     }
+    lstData[1]->setItemDelegate(new DateAndName(lstData[1]));
     lstData[2]->hide();
     cmdDelete = Named(new QPushButton(QStringLiteral("&Delete Selected")), QStringLiteral("cmdDelete"));
     cmdClear = Named(new QPushButton(QStringLiteral("De-Se&lect All")), QStringLiteral("cmdClear"));

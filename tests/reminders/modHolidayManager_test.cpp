@@ -106,4 +106,13 @@ TEST_F(HolidayManager, AFailedSaveKeepsTheListForAnotherTry) {
     EXPECT_TRUE(HolidayFlag[CellOf(MakeDate(2011, 12, 25))]);  // the view's drawing has read it
     EXPECT_EQ(file(), "07/04/11:A\r\n12/25/11:Christmas\r\n");
 }
+
+TEST_F(HolidayManager, KeepsEveryLineOfATruncatedFile) {
+    const std::string whole = "07/04/11:A\r\n12/25/11:Christmas\r\n";
+    for (std::size_t length = 1; length < whole.size(); ++length) {
+        open(whole.substr(0, length));
+        EXPECT_TRUE(SaveHolidayFile());
+        EXPECT_TRUE(file().starts_with(whole.substr(0, length))) << length;
+    }
+}
 }  // namespace
