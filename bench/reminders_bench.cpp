@@ -129,13 +129,17 @@ void OpenManagerOf2000Birthdays(benchmark::State& state) {
     RunPairs(
         state, Pairs, 1.5,
         [] {
-            new frmBDay;
+            ShowWindow<frmBDay>();
+            QApplication::processEvents();
             UnloadAllWindows();
         },
         [&] {
             QListWidget first, second;
             first.addItems(byMonth);
             second.addItems(byName);
+            first.show();
+            second.show();
+            QApplication::processEvents();
         });
 }
 

@@ -33,27 +33,41 @@ void SetIndicator() {
     ShowIndicator();
 }
 
-bool AddAlert(std::string_view line, Date today) {
+/// Parses every line and finds what is pending. Answers the numbers of the lines that cannot be understood.
+std::vector<int> ParseAlerts(const std::vector<int>& numbers) {
+    const Date today = Today();
+    const std::size_t count = AlertLine.size();
+    std::vector<int> bad;
     AlertRec alert;
-    const bool good = ParseAlertLine(line, alert);
-    AlertLine.emplace_back(line);
-    AlertDate.push_back(alert.date);
-    AlertPeriod.push_back(alert.period);
-    AlertMessage.push_back(std::move(alert.message));
-    std::string& pending = PendingAlertLine.emplace_back();
-    ++AlertCount;
-    if (!good) return false;
-    if (today <= alert.date && alert.date <= today + alert.period) {
-        pending = line;
-        ++PendingAlertCount;
+    AlertCount = static_cast<int>(count);
+    PendingAlertCount = 0;
+    AlertDate.resize(count);
+    AlertPeriod.resize(count);
+    AlertMessage.resize(count);
+    PendingAlertLine.resize(count);
+    for (std::size_t i = 0; i < count; ++i) {
+        const bool good = ParseAlertLine(AlertLine[i], alert);
+        AlertDate[i] = alert.date;
+        AlertPeriod[i] = alert.period;
+        AlertMessage[i].swap(alert.message);
+        PendingAlertLine[i].clear();
+        if (!good) {
+            bad.push_back(numbers[i]);
+        } else if (today <= alert.date && alert.date <= today + alert.period) {
+            PendingAlertLine[i] = AlertLine[i];
+            ++PendingAlertCount;
+        }
     }
-    return true;
+    return bad;
 }
 }  // namespace
 
 bool ParseAlertLine(std::string_view line, AlertRec& alert) {
-    alert = {};
-    alert.message = DecodedLineBreaks(Middle(line, 12));
+    alert.date = {};
+    alert.period = 0;
+    alert.message = Middle(line, 12);
+    std::replace(alert.message.begin(), alert.message.end(), '\xD5', '\r');
+    std::replace(alert.message.begin(), alert.message.end(), '\xD2', '\n');
     try {
         const Date date{static_cast<int>(IntegerValue(Middle(line, 1, 5)))};
         alert.period = SmallIntegerValue(Middle(line, 7, 4));
@@ -77,15 +91,10 @@ std::string OneLine(std::string_view message) {
 }
 
 void ReadAlerts() {
-    AlertLine.clear();
-    AlertDate.clear();
-    AlertPeriod.clear();
-    AlertMessage.clear();
-    PendingAlertLine.clear();
-    AlertCount = PendingAlertCount = 0;
-    Reporting("ReadAlerts", [today = Today()] {
-        ReadReminderLines(AlertFile, [&](std::string_view line) { return AddAlert(line, today); });
-    });
+    std::vector<int> numbers;
+    Reporting("ReadAlerts", [&] { numbers = ReadReminderLines(AlertFile, AlertLine); });
+    const std::vector<int> bad = ParseAlerts(numbers);
+    Reporting("ReadAlerts", [&] { TellBadLines(AlertFile, bad); });
     SetIndicator();
 }
 

@@ -31,9 +31,11 @@ bool IsListed(std::size_t index) { return !BirthdayList.pendingOnly || !PendingB
 std::vector<std::size_t> CalendarOrder() {
     std::vector<std::size_t> order(BirthdayLine.size());
     std::iota(order.begin(), order.end(), 0U);
-    std::stable_sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) {
-        return CompareInListOrder(BirthdayLine[a], BirthdayLine[b]) < 0;
-    });
+    // A file that the program wrote is in order.
+    if (!std::is_sorted(BirthdayLine.begin(), BirthdayLine.end(), InListOrder()))
+        std::stable_sort(order.begin(), order.end(), [](std::size_t a, std::size_t b) {
+            return CompareInListOrder(BirthdayLine[a], BirthdayLine[b]) < 0;
+        });
     return order;
 }
 

@@ -22,17 +22,19 @@ namespace {
 const ClearedAtStart ClearBirthdays([] { BirthdayTables = {}; });
 
 constexpr const char* BirthdayFile = "Birthdays.dat";
-constexpr int AnyLeapYear = 2000;
-
-/// True for a birthday whose day of this year or the next lies in its period, counted from today.
-bool IsPending(const BirthdayRec& record, Date today) {
-    if (record.NotifyDays == "-1") return false;
-    const Date limit = today + SmallIntegerValue(record.NotifyDays);
-    for (const int year : {YearOf(today), YearOf(today) + 1}) {
-        const auto day = BirthdayInYear(record.MonthDay, year);
-        if (day && today <= *day && *day <= limit) return true;
-    }
-    return false;
+/// The days from today to each day's next birthday, today's own being 0; -1 for what is no day. Taken at each reading:
+/// a period never reaches further than the next time.
+DayTable<int> DaysAhead(Date today) {
+    DayTable<int> ahead;
+    const int year = YearOf(today);
+    for (int month = 1; month <= 12; ++month)
+        for (int day = 1; day <= 31; ++day) {
+            const std::string monthDay = TwoDigits(month) + "/" + TwoDigits(day);
+            auto next = BirthdayInYear(monthDay, year);
+            if (next && *next < today) next = BirthdayInYear(monthDay, year + 1);
+            ahead[{month, day}] = next ? *next - today : -1;
+        }
+    return ahead;
 }
 
 void SetIndicator() {
@@ -43,34 +45,65 @@ void SetIndicator() {
     if (ShowBirthdayIndicator) ShowBirthdayIndicator();
 }
 
-bool AddBirthday(std::string_view line, Date today) {
-    BirthdayLine.emplace_back(line);
-    BirthdayRec& record = Birthday.emplace_back();
-    std::string& pending = PendingBirthdayLine.emplace_back();
-    ++BirthdayCount;
-    if (!ParseBirthday(line, record)) return false;
-    if (IsPending(record, today)) {
-        pending = line;
-        ++PendingBirthdayCount;
+/// Parses every line and finds what is pending. Answers the numbers of the lines that cannot be understood.
+std::vector<int> ParseBirthdays(const std::vector<int>& numbers) {
+    DayTable<int> ahead = DaysAhead(Today());
+    std::vector<int> bad;
+    BirthdayCount = static_cast<int>(BirthdayLine.size());
+    PendingBirthdayCount = 0;
+    Birthday.resize(BirthdayLine.size());
+    PendingBirthdayLine.resize(BirthdayLine.size());
+    for (std::size_t i = 0; i < BirthdayLine.size(); ++i) {
+        PendingBirthdayLine[i].clear();
+        const auto period = ParseBirthday(BirthdayLine[i], Birthday[i]);
+        if (!period) {
+            bad.push_back(numbers[i]);
+        } else if (*period >= 0 && ahead[ReadMonthAndDay(Birthday[i].MonthDay)] <= *period) {
+            PendingBirthdayLine[i] = BirthdayLine[i];
+            ++PendingBirthdayCount;
+        }
     }
-    return true;
+    return bad;
+}
+
+/// The cell of each day of a year, and its text; "" for a day that the year does not have.
+struct CellOfDay {
+    Cell cell;
+    std::string text;
+};
+DayTable<CellOfDay> CellsOfYear(int year) {
+    DayTable<CellOfDay> cells;
+    if (!IsDate(year, 1, 1)) return cells;
+    const Date end = MakeDate(year, 12, 31);
+    for (Date date = MakeDate(year, 1, 1); date <= end; ++date) {
+        const Cell cell = CellOf(date);
+        cells[{MonthOf(date), DayOf(date)}] = {cell, CellText(cell)};
+    }
+    return cells;
 }
 
 /// Fills the slot's cells from the birthdays.
 void JoinCells(Year slot) {
     BirthdaysOfYear& marked = BirthdayTables.years[slot];
-    marked = {};
     marked.year = YearOfSlot(slot);
+    marked.flag.fill(false);
+    marked.first.fill(0);
     marked.cell.resize(Birthday.size());
+    marked.next.assign(Birthday.size(), 0);
+    DayTable<CellOfDay> cells = CellsOfYear(marked.year);
+    Grid<int> last;
     for (std::size_t i = 0; i < Birthday.size(); ++i) {
-        const auto day = DayInYear(Birthday[i].MonthDay, marked.year);
-        if (!day) continue;
-        const Cell cell = CellOf(*day);
-        marked.flag[cell] = true;
-        marked.cellName[cell] = Birthday[i].Name;
-        marked.cell[i] = CellText(cell);
-        marked.indexes[cell].push_back(static_cast<int>(i));
+        const CellOfDay& day = cells[ReadMonthAndDay(Birthday[i].MonthDay)];
+        marked.cell[i] = day.text;
+        if (day.text.empty()) continue;
+        int& end = last[day.cell];
+        (end == 0 ? marked.first[day.cell] : marked.next[static_cast<std::size_t>(end - 1)]) = static_cast<int>(i) + 1;
+        end = static_cast<int>(i) + 1;
     }
+    ForEachCell([&](Cell cell) {
+        marked.flag[cell] = last[cell] > 0;
+        marked.cellName[cell] = last[cell] > 0 ? Birthday[static_cast<std::size_t>(last[cell] - 1)].Name : "";
+    });
 }
 
 /// The cells of the years on display follow the list at once: the records' indexes are new. Painting is left to the
@@ -90,18 +123,21 @@ void MarkBirthdays(Year slot) {
 }
 }  // namespace
 
-bool ParseBirthday(std::string_view line, BirthdayRec& record) {
+std::optional<int> ParseBirthday(std::string_view line, BirthdayRec& record) {
     record.MonthDay = line.substr(0, 5);
     record.NotifyDays = "-1";
     const std::string_view rest = Middle(line, 10);
-    record.Name = rest.find(':') == std::string_view::npos ? "" : rest.substr(0, rest.find(':'));
+    const auto end = rest.find(':');
+    record.Name = end == std::string_view::npos ? std::string_view() : rest.substr(0, end);
     record.BirthYear = line.substr(line.size() - std::min<std::size_t>(4, line.size()));
     try {
-        record.NotifyDays = std::to_string(IntegerValue(Middle(line, 7, 2)));
+        const int period = SmallIntegerValue(Middle(line, 7, 2));
+        record.NotifyDays = std::to_string(period);
+        if (period != -1 && ReadMonthAndDay(record.MonthDay).month == 0) return std::nullopt;
+        return period;
     } catch (const Error&) {
-        return false;
+        return std::nullopt;
     }
-    return record.NotifyDays == "-1" || DayInYear(record.MonthDay, AnyLeapYear);
 }
 
 std::optional<Date> BirthdayInYear(std::string_view monthDay, int year) {
@@ -109,13 +145,10 @@ std::optional<Date> BirthdayInYear(std::string_view monthDay, int year) {
 }
 
 void ReadBirthdays() {
-    BirthdayLine.clear();
-    Birthday.clear();
-    PendingBirthdayLine.clear();
-    BirthdayCount = PendingBirthdayCount = 0;
-    Reporting("ReadBirthdays", [today = Today()] {
-        ReadReminderLines(BirthdayFile, [&](std::string_view line) { return AddBirthday(line, today); });
-    });
+    std::vector<int> numbers;
+    Reporting("ReadBirthdays", [&] { numbers = ReadReminderLines(BirthdayFile, BirthdayLine); });
+    const std::vector<int> bad = ParseBirthdays(numbers);
+    Reporting("ReadBirthdays", [&] { TellBadLines(BirthdayFile, bad); });
     JoinCellsAgain();
     SetIndicator();
 }
@@ -155,6 +188,7 @@ std::vector<std::string> BirthdaysOfCell(Year slot, Cell cell) {
     const BirthdaysOfYear& marked = BirthdayTables.years[slot];
     std::vector<std::string> names;
     if (!cell.valid() || marked.year != YearOfSlot(slot)) return names;
-    for (const int i : marked.indexes[cell]) names.push_back(Birthday[static_cast<std::size_t>(i)].Name);
+    for (int i = marked.first[cell]; i > 0; i = marked.next[static_cast<std::size_t>(i - 1)])
+        names.push_back(Birthday[static_cast<std::size_t>(i - 1)].Name);
     return names;
 }

@@ -19,11 +19,12 @@ struct BirthdayRec {
 };
 
 struct BirthdaysOfYear {
-    int year = 0;                    // the year the cells belong to; 0 before the first marking
-    Grid<bool> flag;                 // the cell shows a birthday
-    Grid<std::string> cellName;      // the name of the cell's last birthday
-    std::vector<std::string> cell;   // "MMCCRR" of birthday i; "" where the year has no such day
-    Grid<std::vector<int>> indexes;  // the birthdays of the cell, in list order
+    int year = 0;                   // the year the cells belong to; 0 before the first marking
+    Grid<bool> flag;                // the cell shows a birthday
+    Grid<std::string> cellName;     // the name of the cell's last birthday
+    std::vector<std::string> cell;  // "MMCCRR" of birthday i; "" where the year has no such day
+    Grid<int> first;                // 1 + the index of the cell's first birthday; 0 for none
+    std::vector<int> next;          // 1 + the index of the next birthday in the cell of birthday i; 0 for none
 };
 
 /// What the window's cake shows.
@@ -78,8 +79,9 @@ void ReadAndMarkNextYearsBirthdays();
 /// Fills the table of the window's pending list and shows it.
 void FillPendingBirthdayList();
 
-/// Reads one line; false where a field is no number or no date. `record` is filled either way.
-bool ParseBirthday(std::string_view line, BirthdayRec& record);
+/// Reads one line and answers its period in days, -1 for never; nothing where a field is no number or no date. `record`
+/// is filled either way.
+std::optional<int> ParseBirthday(std::string_view line, BirthdayRec& record);
 
 /// The day on which a birthday falls in a year: 02/29 is February 28 in a year without it. Nothing for no date.
 std::optional<Date> BirthdayInYear(std::string_view monthDay, int year);

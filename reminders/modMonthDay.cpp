@@ -13,10 +13,15 @@ int PairAt(std::string_view text, std::size_t at) {
 }
 }  // namespace
 
+MonthAndDay ReadMonthAndDay(std::string_view text) {
+    constexpr int AnyLeapYear = 2000;
+    if (text.size() != 5 || text[2] != '/') return {};
+    const MonthAndDay read{PairAt(text, 0), PairAt(text, 3)};
+    return IsDate(AnyLeapYear, read.month, read.day) ? read : MonthAndDay{};
+}
+
 std::optional<Date> DayInYear(std::string_view monthDay, int year) {
-    if (monthDay.size() != 5 || monthDay[2] != '/') return std::nullopt;
-    const int month = PairAt(monthDay, 0);
-    const int day = PairAt(monthDay, 3);
+    const auto [month, day] = ReadMonthAndDay(monthDay);
     if (!IsDate(year, month, day)) return std::nullopt;
     return MakeDate(year, month, day);
 }

@@ -21,14 +21,30 @@ std::string NamedLines(const std::vector<int>& numbers) {
 }
 }  // namespace
 
-void ReadReminderLines(const char* file, const std::function<bool(std::string_view)>& take) {
-    if (!FileExists(DataFolder(), file)) return;
-    std::vector<int> bad;
-    ReadDataLines(DataPath(file), [&](std::string_view line, int number) {
-        if (!line.empty() && !take(line)) bad.push_back(number);
-    });
-    if (bad.empty()) return;
-    throw Error(TypeMismatch, DescriptionOf(TypeMismatch) + " in \"" + file + "\", " + NamedLines(bad) +
+std::vector<int> ReadReminderLines(const char* file, std::vector<std::string>& lines) {
+    std::vector<int> numbers;
+    // The texts there are keep their memory: a list is read again after each save.
+    const auto keep = [&](std::string_view line, int number) {
+        if (line.empty()) return;
+        if (numbers.size() < lines.size())
+            lines[numbers.size()] = line;
+        else
+            lines.emplace_back(line);
+        numbers.push_back(number);
+    };
+    try {
+        if (FileExists(DataFolder(), file)) ReadDataLines(DataPath(file), keep);
+    } catch (...) {
+        lines.clear();
+        throw;
+    }
+    lines.resize(numbers.size());
+    return numbers;
+}
+
+void TellBadLines(const char* file, const std::vector<int>& numbers) {
+    if (numbers.empty()) return;
+    throw Error(TypeMismatch, DescriptionOf(TypeMismatch) + " in \"" + file + "\", " + NamedLines(numbers) +
                                   ". What could not be read is kept as it stands.");
 }
 

@@ -1,15 +1,16 @@
 // What the files of birthdays and alerts share: reading them, and the save with its message.
 #pragma once
 
-#include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
-/// Calls `take` with each line of the data folder's file that is not blank. No file: no lines. After the last line
-/// throws Error 13 if `take` has answered false for any: those lines are in the tables as they stand, so that no save
-/// loses them.
-void ReadReminderLines(const char* file, const std::function<bool(std::string_view line)>& take);
+/// Fills `lines` with the lines of the data folder's file that are not blank and answers their numbers (from 1). No
+/// file: no lines. A failure throws and leaves none.
+std::vector<int> ReadReminderLines(const char* file, std::vector<std::string>& lines);
+
+/// Throws Error 13 that names the file and the first few of the lines that could not be understood; nothing for none.
+/// Those lines are in the tables as they stand, so that no save loses them.
+void TellBadLines(const char* file, const std::vector<int>& numbers);
 
 /// How a save goes about it.
 struct ReminderSave {

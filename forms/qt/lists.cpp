@@ -15,6 +15,7 @@ void ShowEntries(QListWidget* list, const std::vector<std::string>& entries) {
     for (const auto& entry : entries) shown << FromText(VisibleText(entry));
     list->clear();
     list->addItems(shown);
+    const QSignalBlocker noRepaint(list->model());  // an entry behind its row changes nothing that is seen
     for (int i = 0; i < list->count(); ++i)
         list->item(i)->setData(Qt::UserRole, QByteArray::fromStdString(entries[static_cast<std::size_t>(i)]));
     list->setCurrentRow(std::min(row, list->count() - 1));
