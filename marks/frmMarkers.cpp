@@ -65,9 +65,11 @@ void frmMarkers::makeControls() {
 
 void frmMarkers::layOut() {
     auto* boxes = new QGridLayout;
-    boxes->setHorizontalSpacing(30);
-    boxes->setVerticalSpacing(4);
+    boxes->setHorizontalSpacing(Pixels(150));
+    boxes->setVerticalSpacing(0);
     for (int k = 0; k < CategoryCount; ++k) boxes->addWidget(chkMarker[At(k)], k % BoxRows, k / BoxRows);
+    for (int row = 0; row < BoxRows; ++row) boxes->setRowMinimumHeight(row, Pixels(300));
+    boxes->setColumnStretch(1, 1);
     auto* buttons = new QHBoxLayout;
     for (QPushButton* button : cmdCheck) buttons->addWidget(button);
     buttons->addSpacing(20);

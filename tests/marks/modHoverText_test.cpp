@@ -1,66 +1,42 @@
 // Attaching hover texts.
 #include "marks/modHoverText.h"
 
-#include <gtest/gtest.h>
-
 #include "calendar/modCalendar.h"
 #include "marks/modMarks.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/calendar.h"
 
 namespace {
-struct HoverTextTest : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-
+struct HoverTextTest : CalendarTest {
     HoverTextTest() {
-        folder.put("2026Marks.dat", "01:03:01:255-old");
-        folder.put("2027Marks.dat", "03:03:01:255");
-        Calendar.yearOnDisplay = 2026;
-        SpansNextYear = true;
-        select(MakeDate(2026, 2, 11));
-        ReadAndDisplayThisYearsMarks();
-        ReadAndDisplayNextYearsMarks();
-    }
-    static void select(Date date) {
-        SelectDate(date);
-        SelectedInNextYear = LiesInNextYear(date);
+        folder.put("2026Marks.dat", "08:03:01:255-old");
+        folder.put("2027Marks.dat", "00:03:01:255");
+        show(6, 2026, 9, 1);
     }
 };
 }  // namespace
 
 TEST_F(HoverTextTest, AnswerIsSavedWithItsMarkAndAnEmptyOneChangesNothing) {
+    click(2026, 9, 9);
     for (const auto& [answer, saved] :
          {std::pair{"", "old"}, {"Lunch - 12:30", "Lunch - 12:30"}, {"two\r\nlines", "two  lines"}}) {
-        dialogs.expectInput("Optional Hover Text for Feb 11, 2026", answer);
+        dialogs.expectInput("Optional Hover Text for Sep 09, 2026", answer);
         AttachHoverText();
-        EXPECT_EQ(folder.get("2026Marks.dat"), std::string("01:03:01:255-") + saved);
-        EXPECT_EQ(HoverText(1, 3, 1), saved);
+        EXPECT_EQ(folder.get("2026Marks.dat"), std::string("08:03:01:255-") + saved);
+        EXPECT_EQ(HoverText(8, 3, 1), saved);
     }
     EXPECT_EQ(dialogs.shown()[1].preset, "old");
-    EXPECT_EQ(dialogs.shown()[0].text,
-              "You may input the Hover Text in the box provided or click Enter or Escape to ignore.");
-}
-
-TEST_F(HoverTextTest, GoesToTheYearOfTheSelectedDate) {
-    select(MakeDate(2027, 4, 7));
-    dialogs.expectInput("Apr 07, 2027", "Spring");
+    click(2027, 1, 6);
+    dialogs.expectInput("Jan 06, 2027", "Winter");
     AttachHoverText();
-    EXPECT_EQ(folder.get("2027Marks.dat"), "03:03:01:255-Spring");
-    EXPECT_EQ(folder.get("2026Marks.dat"), "01:03:01:255-old");
-    SelectedInNextYear = false;  // as after a redraw
-    dialogs.expectInput("Apr 07, 2027", "Summer");
-    AttachHoverText();
-    EXPECT_EQ(folder.get("2027Marks.dat"), "03:03:01:255-Summer");
+    EXPECT_EQ(folder.get("2027Marks.dat"), "00:03:01:255-Winter");
+    EXPECT_EQ(folder.get("2026Marks.dat"), "08:03:01:255-two  lines");
 }
 
 TEST_F(HoverTextTest, NothingIsTypedForADayThatCouldNotKeepIt) {
-    select(MakeDate(2026, 2, 12));
+    click(2026, 9, 10);
     dialogs.expect("Mark the date first.");
     AttachHoverText();
-    SelectedCell = {1, 6, 5};  // an empty cell
-    AttachHoverText();
-    SelectedCell = {};
+    SelectedCell = {8, 6, 5};  // an empty cell
     AttachHoverText();
     EXPECT_EQ(dialogs.shown().size(), 1u);
 }

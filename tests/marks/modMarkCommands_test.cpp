@@ -81,28 +81,23 @@ TEST_F(MarkCommands, DayOfNextYearGoesToItsOwnFile) {
 }
 
 TEST_F(MarkCommands, DayOfAYearThatIsNotLoadedLoadsIt) {
-    folder.put("2026Marks.dat", "01:03:01:255");
     folder.put("2030Marks.dat", "00:02:00:255-kept");
     show(12, 2026, 2, 1);
     SelectDate(MakeDate(2030, 1, 2));
     QuickMarkSelectedDate();
     EXPECT_EQ(file(2030), "00:02:00:255-kept\r\n00:03:00:8421376");
-    EXPECT_EQ(file(2026), "01:03:01:255");
     EXPECT_EQ(painted(2030, 1, 2), QuickMarksColor);
 }
 
 TEST_F(MarkCommands, EmptyCellsTakeNoMark) {
     show(6, 2026, 9, 1);
     click(2026, 9, 15);
-    const auto clickEmpty = [](const ShownMonth& shown) { return SelectAt(shown, 6.5, 6.2); };
     for (const std::size_t month : {0u, 4u}) {
-        EXPECT_FALSE(clickEmpty(ShownMonths.at(month)));
+        EXPECT_FALSE(SelectAt(ShownMonths.at(month), 6.5, 6.2));
         MarkSelectedDateAs(MeetingItem);
         QuickMarkSelectedDate();
         ClearMarkFromSelectedDate();
     }
-    SelectedCell = {};
-    QuickMarkSelectedDate();
     EXPECT_EQ(file(2026) + file(2027), "(none)(none)");
 }
 
@@ -140,18 +135,15 @@ TEST_F(MarkCommands, BirthdaysAndHolidaysAreNotCleared) {
 }
 
 TEST_F(MarkCommands, YearsMarksAreDeletedAfterAQuestion) {
-    folder.put("2026Marks.dat", "01:03:01:255-text");
-    folder.put("2027Marks.dat", "01:03:01:255");
+    for (const char* name : {"2026Marks.dat", "2027Marks.dat"}) folder.put(name, "01:03:01:255-text");
     show(12, 2026, 2, 1);
-    dialogs.expect("Are you sure you want to clear all this year's marks? Note: Holidays and Birthdays are excluded.",
-                   Answer::No);
+    dialogs.expect("Are you sure you want to clear all this year's marks?", Answer::No);
     DeleteThisYearsMarks();
     EXPECT_EQ(painted(2026, 2, 11), MeetingColor);
     dialogs.expect("Preparing to clear the yearly marks", Answer::Yes);
     DeleteThisYearsMarks();
     EXPECT_EQ(painted(2026, 2, 11), Black);
-    EXPECT_EQ(file(2026), "(none)");
-    EXPECT_EQ(file(2027), "01:03:01:255");
+    EXPECT_EQ(file(2026) + file(2027), "(none)01:03:01:255-text");
     click(2026, 2, 11);
     QuickMarkSelectedDate();
     EXPECT_EQ(file(2026), "01:03:01:8421376-text");
@@ -159,22 +151,16 @@ TEST_F(MarkCommands, YearsMarksAreDeletedAfterAQuestion) {
 
 TEST_F(MarkCommands, UnreadLinesAreKeptWhateverTheCommand) {
     const std::string broken = "01:03:01:255-before\r\nbroken\r\n02:00:00:255-after";
-    const auto commands = {+[] { QuickMarkSelectedDate(); }, +[] { ClearMarkFromSelectedDate(); },
-                           +[] { DeleteThisYearsMarks(); }};
-    int number = 0;
-    for (const auto command : commands) {
-        SCOPED_TRACE(number);
-        const TemporaryFolder fresh;
-        fresh.put("2026Marks.dat", broken);
-        fresh.put("Marker Colors.dat", folder.get("Marker Colors.dat"));
-        ReadMarkerColors();
+    std::string copies;
+    for (const auto command : {QuickMarkSelectedDate, ClearMarkFromSelectedDate, DeleteThisYearsMarks}) {
+        folder.put("2026Marks.dat", broken);
         dialogs.expect("ReadAndDisplayThisYearsMarks");
         show(12, 2026, 2, 1);
         click(2026, 2, 11);
-        if (number++ == 2) dialogs.expect("Are you sure", Answer::Yes);
+        if (command == DeleteThisYearsMarks) dialogs.expect("Are you sure", Answer::Yes);
         dialogs.expect("Backup");
         command();
-        EXPECT_EQ(fresh.backups(), broken);
+        EXPECT_EQ(folder.backups(), copies += broken);
         dialogs.verify();
     }
 }

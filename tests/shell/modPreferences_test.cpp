@@ -19,12 +19,10 @@ const std::string Full =
     "second\r\nDefault Printer:Laser\r\nthird\r\nFrequent Terms File:Work.fut\r\nLoad FUT Position:True\r\n"
     "FUT Position:Left=11820:Top=3045.5:Height=6345\r\n";
 
-/// The file with one line (counted from 1) replaced.
-std::string With(int line, const std::string& text) {
-    std::string file = Full;
-    std::size_t start = 0;
-    for (int i = 1; i < line; ++i) start = file.find('\n', start) + 1;
-    return file.replace(start, file.find('\r', start) - start, text);
+/// The file with the line of a key replaced.
+std::string With(const std::string& key, const std::string& line) {
+    const auto start = Full.find("\n" + key) + 1;
+    return std::string(Full).replace(start, Full.find('\r', start) - start, line);
 }
 
 struct PreferencesTest : testing::Test {
@@ -37,116 +35,76 @@ struct PreferencesTest : testing::Test {
 };
 }  // namespace
 
-TEST_F(PreferencesTest, AreReadByPositionAndWrittenBackAsTheyStand) {
-    read(Full);
+TEST_F(PreferencesTest, AreReadByPositionAndOnlyTheirOwnLinesAreReplaced) {
+    read(Full + "more\r\n");
     EXPECT_EQ(Preferences.companyName, "A: B");
-    EXPECT_EQ(Preferences.companyCity, "Z\xFCrich");
-    EXPECT_EQ(Preferences.networkShare, "f");
-    EXPECT_FALSE(AutoCompleteOn);
-    EXPECT_EQ(AutoStartPosition, 4);
-    EXPECT_TRUE(Preferences.showTerms && Preferences.minimizeTerms && Preferences.loadTermsPlace);
     EXPECT_EQ(CurrentTermsFile, "Work.fut");
-    EXPECT_EQ(Preferences.termsPlace, (TermsPlace{11820, 3045.5, 2805, 6345}));
+    EXPECT_EQ(Preferences.termsPlace, (TermsPlace{11820, 3045.5, 2805, 6345})) << "the width is the one before";
+    EXPECT_TRUE(!AutoCompleteOn && AutoStartPosition == 4 && Preferences.showTerms && Preferences.loadTermsPlace);
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "Backup"));
-    EXPECT_TRUE(SaveUserPreferences());
-    EXPECT_EQ(folder.get(File), Full);
-}
-
-TEST_F(PreferencesTest, KeepExtraLinesAndReplaceOnlyTheirOwn) {
-    read(Full + "one more\r\n" + Full);
-    EXPECT_TRUE(SaveTermsPreferences(true, 0, false, false));
     EXPECT_TRUE(SaveTermsPlace({-150, 30, 4000, 5000.5}));
-    std::string wanted = With(20, "FUT Position:Left=-150:Top=30:Width=4000:Height=5000.5");
-    for (const auto& [old, now] : {std::pair{"Word:False", "Word:True"},
-                                   {"Start Position:4", "Start Position:0"},
-                                   {"Show FUT:True", "Show FUT:False"},
-                                   {"Minimize FUT:True", "Minimize FUT:False"}})
-        wanted.replace(wanted.find(old), std::string(old).size(), now);
-    EXPECT_EQ(folder.get(File), wanted + "one more\r\n" + Full);
-    EXPECT_TRUE(AutoCompleteOn);
-    EXPECT_EQ(folder.backups(), "");
+    EXPECT_EQ(folder.get(File), With("FUT", "FUT Position:Left=-150:Top=30:Width=4000:Height=5000.5") + "more\r\n");
 }
 
 TEST_F(PreferencesTest, ReportFaultsKeepWhatWasReadBeforeAndLoseNothing) {
     struct Row {
-        const char* name;
         std::string file;
         const char* error;
-        std::string share;  // what line 2 gave
-        int start;          // what line 12 gave
+        int start;  // what the line of the start position gave; 2 is what it was
     };
-    for (const Row& row : std::vector<Row>{{"no boolean", With(11, "Auto Complete Word:maybe"), "Number: 13", "f", 2},
-                                           {"no number", With(12, "Auto Start Position:4x"), "Number: 13", "f", 2},
-                                           {"negative", With(12, "Auto Start Position:-1"), "Number: 6", "f", 2},
-                                           {"too large", With(12, "Auto Start Position:32768"), "Number: 6", "f", 2},
-                                           {"shorter than its key", With(13, "Show"), "Number: 13", "f", 4},
-                                           {"place", With(20, "FUT Position:Left=1:Top=x"), "Number: 13", "f", 4},
-                                           {"NUL bytes", std::string(40, '\0'), "Number: 9", "", 2},
-                                           {"empty", "", "Number: 9", "", 2}}) {
-        SCOPED_TRACE(row.name);
+    for (const Row& row : std::vector<Row>{{With("Auto C", "Auto Complete Word:maybe"), "Number: 13", 2},
+                                           {With("Auto S", "Auto Start Position:4x"), "Number: 13", 2},
+                                           {With("Auto S", "Auto Start Position:-1"), "Number: 6", 2},
+                                           {With("Auto S", "Auto Start Position:32768"), "Number: 6", 2},
+                                           {With("Show", "Show"), "Number: 13", 4},
+                                           {std::string(40, '\0'), "Number: 9", 2},
+                                           {"", "Number: 9", 2}}) {
+        SCOPED_TRACE(row.file);
         const TemporaryFolder fresh;
         fresh.put(File, row.file);
         dialogs.expect(row.error);
         GetUserPreferences();
-        EXPECT_EQ(Preferences.networkShare, row.share);
         EXPECT_EQ(Preferences.autoStart, row.start);
         if (!row.file.empty()) dialogs.expect("Backup");
-        if (row.name == std::string("place")) dialogs.expect(row.error);
         EXPECT_TRUE(SaveTermsPreferences(true, 7, true, false));
         EXPECT_EQ(fresh.backups(), row.file);
-        EXPECT_EQ(Preferences.autoStart, 7);
-        dialogs.verify();
+        EXPECT_EQ(AutoStartPosition, 7) << "all lines are there and can be read";
     }
 }
 
 TEST_F(PreferencesTest, SurviveBeingCutAtEveryByte) {
     const UnsyncedDisk quick;
-    int reports = 0;
-    const Dialogs scripted = SetDialogs({[&](const std::string&, Buttons, const std::string& title) {
-                                             reports += title == "Program Error";
-                                             return Answer::Ok;
-                                         },
-                                         {}});
-    for (std::size_t length = 0; length < Full.size(); ++length) {
+    for (std::size_t length = 1; length < Full.size(); ++length) {
         SCOPED_TRACE(length);
         const TemporaryFolder fresh;
         const std::string cut = Full.substr(0, length);
         fresh.put(File, cut);
-        reports = 0;
-        GetUserPreferences();
         const bool faulty = length <= Full.rfind("FUT Position:") || cut.ends_with('=');
-        EXPECT_EQ(reports, faulty ? 1 : 0);
+        if (faulty) dialogs.expect("GetUserPreferences");
+        GetUserPreferences();
+        if (faulty) dialogs.expect("Backup");
         EXPECT_TRUE(SaveUserPreferences());
         EXPECT_TRUE(fresh.get(File).starts_with(cut) || fresh.backups() == cut);
+        dialogs.verify();
     }
-    SetDialogs(scripted);
 }
 
-TEST_F(PreferencesTest, MissingFileIsReportedAndTheNextSaveWritesAllLines) {
+TEST_F(PreferencesTest, NetworkShareTakesALetterOnlyAndMakesAMissingFile) {
     dialogs.expect("Number: 53");
     GetUserPreferences();
-    dialogs.expectInput("Setting Network Share Drive", " E: ");
-    ChangeNetworkShare();
+    for (const auto& [answer, message] : {std::pair{"3d", true}, {"\xE9", true}, {"  ", false}, {" E: ", false}}) {
+        EXPECT_FALSE(folder.has(File));
+        dialogs.expectInput("Setting Network Share Drive", answer);
+        if (message) dialogs.expect("Could not determine drive letter.");
+        ChangeNetworkShare();
+    }
     GetUserPreferences();
     EXPECT_EQ(Preferences.networkShare, "e");
 }
 
-TEST_F(PreferencesTest, NetworkShareTakesALetterOnly) {
-    read(Full);
-    for (const auto& [answer, message] : {std::pair{"3d", true}, {"\xE9", true}, {"  ", false}, {"", false}}) {
-        dialogs.expectInput("Enter the Network Share Drive letter", answer);
-        if (message) dialogs.expect("Could not determine drive letter.");
-        ChangeNetworkShare();
-    }
-    EXPECT_EQ(folder.get(File), Full);
-    dialogs.expectInput("Enter the Network Share Drive letter", "Q");
-    ChangeNetworkShare();
-    EXPECT_EQ(folder.get(File), With(2, "Shared Directory:q"));
-}
-
 TEST_F(PreferencesTest, FailedSaveChangesNothing) {
     read(Full);
-    SetDisk({[](const Path&) { return Full; }, [](const Path&, std::string_view) { throw Error(DiskFull); }, {}, {}});
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
     dialogs.expect("SaveUserPreferences");
     EXPECT_FALSE(SaveDefaultTermsFile("Home.fut"));
     SetDisk({});
@@ -155,17 +113,18 @@ TEST_F(PreferencesTest, FailedSaveChangesNothing) {
     EXPECT_EQ(folder.get(File), Full);
 }
 
-TEST_F(PreferencesTest, SelectTheDefaultPrinter) {
+TEST_F(PreferencesTest, PrinterIsSelectedAndItsFailureStopsNothing) {
     std::string selected;
-    const auto noDocument = [](const std::string&) { return std::unique_ptr<Canvas>(); };
-    const auto names = [] { return std::vector<std::string>{"Ink", "Laser"}; };
-    const auto select = [&](const std::string& name) { selected = name; };
-    const auto before = SetPrinter({names, select, {}, noDocument});
+    std::vector<std::string> installed{"Ink", "Laser"};
+    const auto before = SetPrinter({[&] { return installed.empty() ? throw Error(PrinterFault) : installed; },
+                                    [&](const std::string& name) { selected = name; },
+                                    {},
+                                    [](const std::string&) { return std::unique_ptr<Canvas>(); }});
     read(Full);
     EXPECT_EQ(selected, "Laser");
-    SetPrinter({[]() -> std::vector<std::string> { throw Error(PrinterFault); }, {}, {}, noDocument});
+    installed.clear();
     dialogs.expect("Printer error.");
-    read(With(12, "Auto Start Position:9"));
+    read(With("Auto S", "Auto Start Position:9"));
     EXPECT_EQ(AutoStartPosition, 9);
     SetPrinter(before);
 }
