@@ -247,29 +247,34 @@ bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix) {
            std::equal(prefix.begin(), prefix.end(), text.begin(), [](char a, char b) { return Upper(a) == Upper(b); });
 }
 
+namespace {
+/// The index of the phrase's letter that texts have least often, in capitals.
+std::size_t RarestLetter(std::string_view folded) {
+    constexpr std::string_view Common = " ETAOINSRHLDCUMFPGWYBVK";  // the most frequent first; all others are rarer
+    const auto rarer = [Common](char a, char b) { return Common.find(a) < Common.find(b); };
+    return static_cast<std::size_t>(std::max_element(folded.begin(), folded.end(), rarer) - folded.begin());
+}
+}  // namespace
+
 std::size_t FindIgnoringCase(std::string_view text, std::string_view phrase, std::size_t from) {
     if (from > text.size() || phrase.size() > text.size() - from) return std::string_view::npos;
     if (phrase.empty()) return from;
-    const auto& upper = UpperTable();
-    const char first = UpperCase(phrase.front());
-    const char firstLower = LowerCase(phrase.front());
-    const std::size_t last = text.size() - phrase.size();
     const std::string folded = UpperCase(phrase);
-    // Two fast searches for the phrase's first letter leapfrog each other; the rest is compared at their hits only.
-    std::size_t atUpper = text.find(first, from);
-    std::size_t atLower = first == firstLower ? std::string_view::npos : text.find(firstLower, from);
+    const std::size_t rarest = RarestLetter(folded);
+    const char capital = folded[rarest];
+    const char small = LowerCase(capital);
+    const std::size_t last = text.size() - phrase.size() + rarest;
+    // Two fast searches for that letter leapfrog each other; the whole phrase is compared at their hits only.
+    std::size_t atCapital = text.find(capital, from + rarest);
+    std::size_t atSmall = capital == small ? std::string_view::npos : text.find(small, from + rarest);
     for (;;) {
-        const std::size_t at = std::min(atUpper, atLower);
+        const std::size_t at = std::min(atCapital, atSmall);
         if (at > last) return std::string_view::npos;
-        std::size_t i = 1;
-        while (i < folded.size() &&
-               upper[static_cast<unsigned char>(text[at + i])] == static_cast<unsigned char>(folded[i]))
-            ++i;
-        if (i == folded.size()) return at;
-        if (at == atUpper)
-            atUpper = text.find(first, at + 1);
+        if (EqualIgnoringCase(text.substr(at - rarest, phrase.size()), folded)) return at - rarest;
+        if (at == atCapital)
+            atCapital = text.find(capital, at + 1);
         else
-            atLower = text.find(firstLower, at + 1);
+            atSmall = text.find(small, at + 1);
     }
 }
 

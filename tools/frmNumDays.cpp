@@ -158,8 +158,8 @@ void frmNumDays::showOccurrences(const Occurrences& found) {
     {
         const BusyPointer busy;
         QStringList entries;
-        entries.reserve(static_cast<qsizetype>(found.entries.size()));
-        for (const auto& entry : found.entries) entries << FromText(entry);
+        entries.reserve(found.count);
+        ListOccurrences(found, [&entries](std::string_view entry) { entries << FromText(entry); });
         lstDays->addItems(entries);
     }
     if (found.tooMany) ShowMessage("Too many occurrences: narrow the Date Difference");

@@ -52,20 +52,21 @@ Occurrences CountWeekdays() {
     const Date first = NumDays.start + daysAhead;
     if (first > NumDays.end) return {};
     const int count = (NumDays.end - first) / 7 + 1;
-    Occurrences found;
-    found.tooMany = count > MostOccurrences;
-    found.entries.resize(static_cast<std::size_t>(std::min(count, MostOccurrences)));
+    return {first, std::min(count, MostOccurrences), count > MostOccurrences};
+}
+
+void ListOccurrences(const Occurrences& found, const std::function<void(std::string_view)>& take) {
     const std::string name = NameOfDay() + " ";
-    WeeklyDates date(first);
-    for (std::string& entry : found.entries) {
-        entry.reserve(name.size() + 10);
+    std::string entry;
+    WeeklyDates date(found.first);
+    for (int week = 0; week < found.count; ++week) {
         entry = name;
         date.appendTo(entry);
         date.next();
+        take(entry);
     }
-    return found;
 }
 
 std::string OccurrencesText(const Occurrences& found) {
-    return NameOfDay() + " found " + std::to_string(found.entries.size()) + " times";
+    return NameOfDay() + " found " + std::to_string(found.count) + " times";
 }

@@ -1,8 +1,9 @@
 // Counting how often a weekday falls into a period.
 #pragma once
 
+#include <functional>
 #include <string>
-#include <vector>
+#include <string_view>
 
 #include "base/dates.h"
 
@@ -16,13 +17,17 @@ struct NumDaysState {
 extern NumDaysState NumDays;
 
 struct Occurrences {
-    std::vector<std::string> entries;  // "Sunday 1/4/2009", in order
-    bool tooMany = false;              // there are more than MostOccurrences; the entries are the first of them
+    Date first;
+    int count = 0;         // 0..MostOccurrences, a week apart
+    bool tooMany = false;  // there are more of them than counted
 };
 
 /// The dates from NumDays.start to NumDays.end, both included, that fall on NumDays.weekday. None where the end is
 /// earlier than the start.
 Occurrences CountWeekdays();
+
+/// Calls `take` with each entry in order: "Sunday 1/4/2009". The text holds until `take` returns.
+void ListOccurrences(const Occurrences& found, const std::function<void(std::string_view entry)>& take);
 
 /// "Sunday found 5 times"
 std::string OccurrencesText(const Occurrences& found);

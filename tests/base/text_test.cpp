@@ -88,7 +88,11 @@ TEST(Text, IsFoundIgnoringCase) {
                 {"12-12", "12", 1, 3},
                 {"aab", "ab", 0, 1},
                 {"abc", "c", 2, 2},
-                {"abc", "a", 1, std::string::npos}};
+                {"abc", "a", 1, std::string::npos},
+                {"aaXaaaab", "AAAB", 0, 4},
+                {"abcabcab", "cab", 3, 5},
+                {"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15},
+                {"a calendar viewer", "Calendar View", 2, 2}};
     for (const auto& [text, phrase, from, at] : rows) EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
     EXPECT_TRUE(EqualIgnoringCase("M\xDCLLER", "m\xFCller"));
     EXPECT_FALSE(EqualIgnoringCase("a", "ab"));
