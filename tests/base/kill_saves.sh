@@ -39,10 +39,10 @@ check_whole_and_next_save() {
 
 save -e trace=all
 [ "$status" = 0 ] && [ "$(state)" = new ] || { echo "the plain save fails: status $status"; exit 1; }
-# Name, number before the save and number in the save, of each system call that the save makes.
+# Name, number before the save and number in the save, of each system call that the save makes, those for memory apart.
 calls=$(sed -E 's/^[0-9]+ +//' "$trace" | awk -F'(' '
   /^getppid\(/ { saving = 1; next }
-  /^[a-z0-9_]+\(/ && !/^(exit_group|execve)\(/ { if (saving) after[$1]++; else before[$1]++ }
+  /^[a-z0-9_]+\(/ && !/^(exit_group|mmap|munmap|mprotect|brk|madvise)\(/ { if (saving) after[$1]++; else before[$1]++ }
   END { for (name in after) print name, before[name] + 0, after[name] }')
 
 while read -r name before count; do
