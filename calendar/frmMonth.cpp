@@ -1,7 +1,13 @@
 // The one-month view.
 #include "calendar/frmMonth.h"
 
+#include <utility>
+
 #include "calendar/modNavigation.h"
+#include "forms/qt/text.h"
+#include "marks/frmPlacedIcons.h"
+#include "marks/modIcons.h"
+#include "marks/modLabels.h"
 
 namespace {
 constexpr int MonthWidth = 8900;  // of the grid, twips
@@ -11,7 +17,37 @@ constexpr int SheetHeight = 10800;
 constexpr int LeftWidth = 2460;
 }  // namespace
 
-frmMonth::frmMonth() : MonthsWindow("frmMonth", QStringLiteral("1 Month View"), 1, 1) { buildLeftPanel(); }
+frmMonth::frmMonth() : MonthsWindow("frmMonth", QStringLiteral("1 Month View"), 1, 1) {
+    buildLeftPanel();
+    connect(new PlacedIcons(picMonth()), &PlacedIcons::selected, picMonth(), &MonthPicture::showSelection);
+    DayLabelsAreSeen = [this] { return labelsAreSeen(); };
+    ShowDayLabels = [this] { showLabels(); };
+    CloseMonthWindow = [this] { close(); };
+}
+
+frmMonth::~frmMonth() {
+    DayLabelsAreSeen = nullptr;
+    ShowDayLabels = nullptr;
+    CloseMonthWindow = nullptr;
+}
+
+bool frmMonth::labelsAreSeen() {
+    labelsMissed_ = Twips(width()) < 10000;
+    return !labelsMissed_;
+}
+
+void frmMonth::showLabels() {
+    for (std::size_t i = 0; i < lblTTT.size(); ++i) {
+        const bool used = i < DayLabels.labels.size();
+        const QString caption = used ? FromText(CaptionOf(DayLabels.labels[i])) : QString();
+        lblTTT[i]->setText(caption);
+        lblTTT[i]->setToolTip(caption.toHtmlEscaped());
+        QPalette colors;
+        if (used) colors.setColor(QPalette::WindowText, FromColor(DayLabels.labels[i].color));
+        lblTTT[i]->setPalette(colors);
+        lblTTT[i]->setVisible(used);
+    }
+}
 
 void frmMonth::buildLeftPanel() {
     picLeft = Named(new QWidget(picMain), QStringLiteral("picLeft"), QStringLiteral("Day labels"));
@@ -52,6 +88,7 @@ void frmMonth::layOut() {
     place(picNav, left + side + MonthWidth / 2.0 - 1350, top + MonthHeight + 80, 2700, 370);
     layOutLeftPanel();
     picLeft->setVisible(leftPanelVisible_ && !templateMode_);
+    if (wide && std::exchange(labelsMissed_, false)) DisplayTTTLabels();
 }
 
 void frmMonth::layOutLeftPanel() {

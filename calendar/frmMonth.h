@@ -11,12 +11,12 @@ class frmMonth : public MonthsWindow {
 
   public:
     frmMonth();
+    ~frmMonth() override;
 
     /// In template mode the navigation and the left panel are hidden.
     void setTemplateMode(bool templateMode);
     /// True where the window is wide enough for the day labels.
     bool leftPanelVisible() const { return leftPanelVisible_; }
-    QLabel* label(int index) const { return lblTTT.at(static_cast<std::size_t>(index)); }
     MonthPicture* picMonth() const { return picture(0); }
 
   protected:
@@ -28,6 +28,8 @@ class frmMonth : public MonthsWindow {
     void buildLeftPanel();
     void layOutLeftPanel();
     void VScroll1_Change(int value);
+    bool labelsAreSeen();
+    void showLabels();
 
     QWidget* picLeft;
     QWidget* picTTT;
@@ -35,4 +37,5 @@ class frmMonth : public MonthsWindow {
     std::array<QLabel*, 36> lblTTT{};
     bool templateMode_ = false;
     bool leftPanelVisible_ = false;
+    bool labelsMissed_ = false;  // the month was drawn while there was no room for its labels
 };

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "calendar/modCalendar.h"
+#include "calendar/modNavigation.h"
 #include "calendar/modSelection.h"
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
@@ -51,6 +52,31 @@ void MonthsWindow::buildNavigation() {
         goNext();
         setFocus();
     });
+}
+
+void MonthsWindow::buildMonthButtons(const char* name, const QString& caption) {
+    for (int i = 0; i < static_cast<int>(pictures_.size()); ++i) {
+        auto* button = Named(new QPushButton(caption, picMain), ElementName(name, i));
+        button->setFocusPolicy(Qt::TabFocus);
+        connect(button, &QPushButton::clicked, this, [i] { OpenShownMonth(i); });
+        monthButtons_.push_back(button);
+    }
+    QWidget::setTabOrder(monthButtons_.back(), cmdPrev);
+    QWidget::setTabOrder(cmdPrev, cmdNext);
+}
+
+void MonthsWindow::captionMonth(int index, const QString& caption) {
+    picture(index)->setAccessibleName(caption);
+    if (monthButtons_.empty()) return;
+    monthButton(index)->setText(caption);
+    monthButton(index)->setAccessibleName(caption);
+    monthButton(index)->setToolTip(QStringLiteral("Go to %1's Calendar").arg(caption));
+}
+
+void MonthsWindow::centreView() {
+    const int zoomedWidth = static_cast<int>(ViewWidth / 15 * zoom());
+    const int zoomedHeight = static_cast<int>(ViewHeight / 15 * zoom());
+    picMain->setGeometry((width() - zoomedWidth) / 2, (height() - zoomedHeight) / 2, zoomedWidth, zoomedHeight);
 }
 
 std::vector<Canvas*> MonthsWindow::canvases() {

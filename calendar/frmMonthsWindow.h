@@ -23,8 +23,8 @@ class MonthsWindow : public Window {
     std::vector<Canvas*> canvases();
     /// Shows what was drawn, and the selection.
     void showDrawn();
-    /// The buttons that open the months, if the view has them.
-    virtual void captionMonth(int, const QString&) {}
+    /// Names the month's picture, and the button that opens it if the view has one.
+    void captionMonth(int index, const QString& caption);
 
   protected:
     /// Places what the view holds; `place` does it in twips.
@@ -35,6 +35,11 @@ class MonthsWindow : public Window {
     void place(QWidget* control, double left, double top, double width, double height) const;
     double zoom() const { return zoom_; }
     MonthPicture* picture(int index) const { return pictures_.at(static_cast<std::size_t>(index)); }
+    /// Makes a button for each month that opens it: name(0), name(1), ...
+    void buildMonthButtons(const char* name, const QString& caption = {});
+    QPushButton* monthButton(int index) const { return monthButtons_.at(static_cast<std::size_t>(index)); }
+    /// Puts the view's area in the middle of the window.
+    void centreView();
 
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
@@ -55,4 +60,5 @@ class MonthsWindow : public Window {
     double zoom_ = 1;
     bool renewing_ = false;
     std::vector<MonthPicture*> pictures_;
+    std::vector<QPushButton*> monthButtons_;  // none in the one-month view
 };

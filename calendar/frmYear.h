@@ -8,15 +8,9 @@ class frmYear : public MonthsWindow {
 
   public:
     frmYear();
-    void captionMonth(int index, const QString& caption) override;
 
   protected:
     void layOut() override;
     void goNext() override;
     void goPrevious() override;
-
-  private:
-    void cmdMonth_Click(int index);
-
-    std::array<QPushButton*, 12> cmdMonth{};
 };

@@ -8,6 +8,7 @@
 #include "calendar/modShell.h"
 #include "marks/modCategories.h"
 #include "marks/modIcons.h"
+#include "marks/modLabels.h"
 #include "marks/modMarks.h"
 #include "notes/modNotes.h"
 #include "reminders/modBirthdays.h"
@@ -168,6 +169,7 @@ void DrawOneMonth(Date first) {
     LoadThisYear();
     LoadIcons();
     FinishView("Tasmoro: " + FormatDate(first, "mmm yyyy") + " Calendar");
+    DisplayTTTLabels();
 }
 
 // -- Six months and a year ------------------------------------------------------------------------------------------

@@ -13,6 +13,7 @@
 #include "base/text.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
+#include "calendar/modShell.h"
 #include "calendar/modViews.h"
 #include "marks/modSaveChanges.h"
 #include "shell/modErrors.h"
@@ -361,9 +362,9 @@ std::string BytesOf(const IconLines& lines) {
 
 bool WriteTemplate() {
     return Reporting("SaveTemplateIcons", [] {
-        CountLines();
+        if (!Icons.ofTemplate && TemplateCount == 0) throw Error(InvalidCall);
         const std::string backup = SaveDataFile(DataPath(TemplateName), BytesOf(TemplateLines));
-        IconsChanged = false;
+        if (Icons.ofTemplate) IconsChanged = false;
         ShowMessage("Template Saved." + (backup.empty() ? "" : CrLf + backup));
     });
 }
@@ -375,6 +376,7 @@ bool Save1MonthIcons() {
         MakeFolder(FolderOfMonth());
         const std::string backup = SaveDataFile(FileOfMonth(), BytesOf(MonthIconLines));
         IconsChanged = false;
+        Tell(Shell.showTemplateLabel, AnyIconPlaced() ? "Monthly View = Modified" : "Monthly View = Marks Only");
         ShowMessage("Calendar Saved." + (backup.empty() ? "" : CrLf + backup));
     });
 }

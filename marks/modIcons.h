@@ -20,7 +20,10 @@ inline constexpr int SlotsOfDay = 4;         // icons that one day can carry
 inline constexpr int MostIcons = 31 * 4;     // icons that one month can carry
 inline constexpr double IconSlotTop = 1.45;  // of every icon, below the cell's row, in the units of the month's picture
 inline constexpr std::array<double, SlotsOfDay> IconSlotX{0.04, 0.28, 0.52, 0.76};  // from the cell's column
-inline constexpr int IconTwips = 300;                                               // width and height on the screen
+inline constexpr int IconTwips = 300;  // width and height on the screen at 100 %
+/// The same in the units of the month's picture, which is 8900 twips wide and 7000 high.
+inline constexpr double IconWidth = IconTwips * 7 / 8900.0;
+inline constexpr double IconHeight = IconTwips * 6.75 / 7000.0;
 
 /// What a line of an icon file says.
 struct IconLine {

@@ -13,6 +13,7 @@
 
 #include "base/clock.h"
 #include "base/text.h"
+#include "calendar/frm6Months.h"
 #include "calendar/frmMonth.h"
 #include "calendar/frmYear.h"
 #include "calendar/modCalendar.h"
@@ -301,6 +302,7 @@ std::vector<Canvas*> frmMain::openView(int view) {
             open->close();
     };
     loaded(view == 1, OpenedWindow<frmMonth>(), [] { return new frmMonth; });
+    loaded(view == 6, OpenedWindow<frm6Months>(), [] { return new frm6Months; });
     loaded(view == 12, OpenedWindow<frmYear>(), [] { return new frmYear; });
     if (window == nullptr) return {};
     if (window->parentWidget() != middle_) {

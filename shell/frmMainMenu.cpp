@@ -3,11 +3,14 @@
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "marks/frmColors.h"
+#include "marks/frmIcons.h"
 #include "marks/frmMarkers.h"
 #include "marks/modCategories.h"
 #include "marks/modHoverText.h"
+#include "marks/modIcons.h"
 #include "marks/modMarkCommands.h"
 #include "marks/modMarkerDisplay.h"
+#include "marks/modPrint.h"
 #include "notes/frmHelp.h"
 #include "notes/frmPref.h"
 #include "notes/frmToDo.h"
@@ -57,12 +60,13 @@ void Append(Table& table, const Table& more) { table.insert(table.end(), more.be
 Table FileItems() {
     return {
         Without("mnuFile", "&File", ""),
-        With("mnuFileCreateTemplate", "&Create/Modify 1 Month Calendar Template", "mnuFile", {}),
+        With("mnuFileCreateTemplate", "&Create/Modify 1 Month Calendar Template", "mnuFile", CreateOrModifyTemplate),
         Without("mnuFileSave", "&Save", "mnuFile"),
-        With("mnuFileSaveTemplate", "Save 1 Month Calendar Template", "mnuFileSave", {}),
-        With("mnuFileSaveCalendar", "Save This Month's Icons", "mnuFileSave", {}),
-        With("mnuFilePrintCalendar", "&Print 1 Month Calendar", "mnuFile", {}),
-        With("mnuFilePrintCalendarNoIcons", "Print 1 Month Calendar &Without Icons", "mnuFile", {}),
+        With("mnuFileSaveTemplate", "Save 1 Month Calendar Template", "mnuFileSave", [] { SaveTemplateIcons(); }),
+        With("mnuFileSaveCalendar", "Save This Month's Icons", "mnuFileSave", [] { Save1MonthIcons(); }),
+        With("mnuFilePrintCalendar", "&Print 1 Month Calendar", "mnuFile", mnuFilePrintCalendar_Click),
+        With("mnuFilePrintCalendarNoIcons", "Print 1 Month Calendar &Without Icons", "mnuFile",
+             mnuFilePrintCalendarNoIcons_Click),
         With("mnuFileOpenFUT", "Open &Frequently Used Terms", "mnuFile", {}),
     };
 }
@@ -94,7 +98,9 @@ Table CalendarItems() {
         With(
             "mnuCalOneMonth", "Show 1 Month Calendar", "mnuCal", [] { ShowViewOfPickers("mnuCalOneMonth_Click", 1); },
             QKeySequence(QStringLiteral("Ctrl+1"))),
-        With("mnuCalSixMonths", "Show 6 Month Calendar", "mnuCal", {}, QKeySequence(QStringLiteral("Ctrl+2"))),
+        With(
+            "mnuCalSixMonths", "Show 6 Month Calendar", "mnuCal", [] { ShowViewOfPickers("mnuCalSixMonths_Click", 6); },
+            QKeySequence(QStringLiteral("Ctrl+2"))),
         With(
             "mnuCalOneYear", "Show 1 Year Calendar", "mnuCal", [] { ShowViewOfPickers("mnuCalOneYear_Click", 12); },
             QKeySequence(QStringLiteral("Ctrl+3"))),
@@ -122,9 +128,9 @@ Table DateItems() {
             With("mnuOptDateSetAlert", "Set Alert for Selected Date", "mnuDateOptions",
                  [] { OpenAlertManagerFor(SelectedDate); }),
             Without("mnuOptDateViewAlert", "View Alert for Selected Date", "mnuDateOptions"),
-            With("mnuOptDateShowIcons", "View Insertable Icons", "mnuDateOptions", {}),
-            With("mnuOptDateRemoveIcon", "Remove Selected Icon", "mnuDateOptions", {}),
-            With("mnuOptDateRemoveAll", "Remove All Icons", "mnuDateOptions", {}),
+            With("mnuOptDateShowIcons", "View Insertable Icons", "mnuDateOptions", ShowPaletteForMonth),
+            With("mnuOptDateRemoveIcon", "Remove Selected Icon", "mnuDateOptions", RemoveSelectedIcon),
+            With("mnuOptDateRemoveAll", "Remove All Icons", "mnuDateOptions", RemoveAllIcons),
         });
     return table;
 }
@@ -153,7 +159,7 @@ Table ManageItems() {
         With("mnuManageToDo", "To Do List", "mnuManage", OpenToDoList),
         With("mnuManageHolidays", "Holidays", "mnuManage", [] { ShowWindow<frmHolidays>(); }),
         With("mnuManageBDays", "Birthdays", "mnuManage", [] { ShowWindow<frmBDay>(); }),
-        With("mnuManageIcons", "Insertable Icons", "mnuManage", {}),
+        With("mnuManageIcons", "Insertable Icons", "mnuManage", ShowPaletteWindow),
         Without("mnuManageFUT", "Frequently Used Terms", "mnuManage"),
         With("mnuManageFUTList", "Edit List", "mnuManageFUT", {}),
         With("mnuManageFUTPreferences", "Edit Preferences", "mnuManageFUT", [] { ShowWindow<frmPref>(); }),

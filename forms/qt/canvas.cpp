@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "base/errors.h"
+#include "forms/qt/iconPictures.h"
 #include "forms/qt/text.h"
 
 QColor FromColor(Color color) {
@@ -223,11 +224,10 @@ double PictureCanvas::textHeight(const Font& font) {
 }
 
 void PictureCanvas::picture(double x, double y, double width, double height, const Path& file) {
-    const QImage picture(FromPath(file.string()));
-    if (picture.isNull()) throw Error(std::filesystem::exists(file) ? PathFileAccess : FileNotFound);
-    const QRect place = deviceRect(x, y, x + width, y + height);
+    const QRect room = deviceRect(x, y, x + width, y + height);
+    const QImage picture = PictureOfSide(ReadPictures(file), std::min(room.width(), room.height()));
+    const QRect place(room.center() - picture.rect().center(), picture.size());
     QPainter painter(&image_);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawImage(place, picture);
     changed(place);
 }

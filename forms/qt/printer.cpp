@@ -14,6 +14,7 @@
 #include "base/errors.h"
 #include "forms/printer.h"
 #include "forms/qt/canvas.h"
+#include "forms/qt/iconPictures.h"
 #include "forms/qt/text.h"
 
 namespace {
@@ -69,10 +70,12 @@ class PageCanvas : public Canvas {
         return QFontMetricsF(fontOf(font), device_.get()).height() * height_ / device_->height();
     }
     void picture(double x, double y, double width, double height, const Path& file) override {
-        const QImage picture(FromPath(file.string()));
-        if (picture.isNull()) throw Error(std::filesystem::exists(file) ? PathFileAccess : FileNotFound);
+        const QRectF room(point(x, y), point(x + width, y + height));
+        const QImage picture = LargestPicture(ReadPictures(file));
+        QRectF place(QPointF(), QSizeF(picture.size()).scaled(room.size(), Qt::KeepAspectRatio));
+        place.moveCenter(room.center());
         painter_.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter_.drawImage(QRectF(point(x, y), point(x + width, y + height)), picture);
+        painter_.drawImage(place, picture);
     }
     void newPage() override {
         if (!device_->newPage()) throw Error(PrinterFault);

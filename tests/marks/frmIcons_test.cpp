@@ -1,0 +1,154 @@
+// The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
+#include "marks/frmIcons.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSet>
+#include <QTest>
+
+#include "base/diskio.h"
+#include "base/errors.h"
+#include "calendar/modPaint.h"
+#include "forms/qt/canvas.h"
+#include "forms/qt/iconPictures.h"
+#include "marks/frmIconTag.h"
+#include "marks/frmPlacedIcons.h"
+#include "marks/modIcons.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+class IconWindows : public testing::Test {
+  protected:
+    IconWindows() { std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive); }
+    ~IconWindows() override {
+        UnloadAllWindows();
+        SetDisk({});
+    }
+
+    template <class Control>
+    static Control* Find(const QWidget* window, const QString& name) {
+        return window->findChild<Control*>(name);
+    }
+
+    TemporaryFolder folder;
+    ScriptedDialogs boxes;
+};
+
+TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
+    for (int picture = 0; picture < LibrarySize; ++picture) {
+        QSet<int> sides;
+        for (const QImage& image : ReadPictures(PictureFile(picture))) sides.insert(image.width());
+        EXPECT_EQ(sides, (QSet<int>{16, 24, 32, 48})) << picture;
+    }
+    ReadIconTags();
+    std::set<std::string> captions(IconCaption.begin(), IconCaption.end());
+    EXPECT_EQ(captions.size(), static_cast<std::size_t>(PaletteSize));
+    EXPECT_FALSE(captions.contains(""));
+    EXPECT_TRUE(folder.has("Images/License of the pictures.txt"));
+}
+
+TEST_F(IconWindows, PicturesAreTakenInTheirOwnSizeWhereThereIsOne) {
+    const auto pictures = ReadPictures(PictureFile(12));
+    for (const int side : {16, 24, 32, 48, 20, 40}) EXPECT_EQ(PictureOfSide(pictures, side).width(), side);
+    EXPECT_EQ(PictureOfSide(pictures, 24), pictures[1]);
+    EXPECT_EQ(IconPixmap(12, 24, 1.5).size(), QSize(36, 36));
+}
+
+TEST_F(IconWindows, ASecondShowingReadsNoFile) {
+    int reads = 0;
+    const DiskCalls real = Disk();
+    DiskCalls counted = real;
+    counted.read = [&](const std::filesystem::path& path) { return ++reads, real.read(path); };
+    SetDisk(counted);
+    for (const bool first : {true, false}) {
+        reads = 0;
+        ShowPaletteWindow();
+        ShowIconTag(3);
+        OpenedWindow<frmIconTag>()->grab();
+        OpenedWindow<frmIcons>()->grab();
+        EXPECT_EQ(reads > 0, first);
+        EXPECT_EQ(PaletteShown, true);
+        UnloadAllWindows();
+    }
+}
+
+TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
+    folder.put("Images/7.ico", "no picture at all");
+    std::filesystem::remove(folder.path() / "Images" / "9.ico");
+    boxes.expect("An error occurred in ReadIconTags.");
+    ShowPaletteWindow();
+    auto* palette = OpenedWindow<frmIcons>();
+    palette->grab();
+    EXPECT_EQ(Find<IconImage>(palette, QStringLiteral("imgIcon(95)"))->toolTip(), QStringLiteral("Important"));
+    EXPECT_NE(IconPixmap(7, 24, 1).toImage(), IconPixmap(8, 24, 1).toImage());
+    EXPECT_EQ(IconPixmap(7, 24, 1).toImage(), IconPixmap(9, 24, 1).toImage());
+}
+
+TEST_F(IconWindows, TheManagerChangesASlot) {
+    ShowPaletteWindow();
+    auto* palette = OpenedWindow<frmIcons>();
+    auto* dentist = Find<IconImage>(palette, QStringLiteral("imgIcon(12)"));
+    EXPECT_EQ(dentist->toolTip(), QStringLiteral("Dentist"));
+    QTest::mouseClick(dentist, Qt::RightButton);
+    auto* manager = OpenedWindow<frmIconTag>();
+    ASSERT_NE(manager, nullptr);
+    auto* caption = Find<QLineEdit>(manager, QStringLiteral("txtTag"));
+    EXPECT_EQ(caption->selectedText(), QStringLiteral("Dentist"));
+
+    caption->setText(QString(QChar(0x4E2D)));  // a character that the files do not have
+    boxes.expect("cannot be saved");
+    auto* save = Find<QPushButton>(manager, QStringLiteral("cmdSave"));
+    save->click();
+    EXPECT_EQ(OpenedWindow<frmIconTag>(), manager);
+
+    caption->setText(QStringLiteral("Dr. Müller: teeth"));
+    QTest::mouseClick(Find<IconImage>(manager, QStringLiteral("imgIcon(143)")), Qt::LeftButton);
+    save->click();
+    EXPECT_EQ(OpenedWindow<frmIconTag>(), nullptr);
+    EXPECT_EQ(dentist->toolTip(), QStringLiteral("Dr. Müller: teeth"));
+    EXPECT_EQ(dentist->picture(), 143);
+    EXPECT_NE(folder.get("Icon Tags.dat").find("143:Dr. M\xFCller: teeth\r\n013:"), std::string::npos);
+}
+
+TEST_F(IconWindows, NothingIsDraggedWithoutAMonth) {
+    ShowPaletteWindow();
+    boxes.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
+    QTest::mouseClick(Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(0)")), Qt::LeftButton);
+    EXPECT_EQ(DragKind, Drag::None);
+}
+
+TEST_F(IconWindows, DropsShowTheIconOnItsDay) {
+    PictureBox month;
+    month.resize(593, 467);
+    month.canvas().setScale(GridWidth, GridHeight);
+    PlacedIcons icons(&month);
+    ResetMonthIcons(MakeDate(2026, 4, 1));
+
+    BeginDragFromPalette(12);
+    QMimeData data;
+    data.setData(QStringLiteral("application/x-tasmoro-icon"), "12");
+    // Tuesday, April 7th: the third column of the second row.
+    const QPoint point(2.5 * 593 / 7, 2.25 * 467 / 6.75);
+    QDragEnterEvent enter(point, Qt::MoveAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&month, &enter);
+    QDropEvent drop(point, Qt::MoveAction, &data, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(&month, &drop);
+    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_EQ(MonthIconLines[0], "06:00 Index:12");
+    auto* icon = Find<IconImage>(&month, QStringLiteral("picIcon(0)"));
+    ASSERT_NE(icon, nullptr);
+    EXPECT_TRUE(icon->isVisibleTo(&month));
+    EXPECT_EQ(icon->toolTip(), QStringLiteral("Dentist"));
+    EXPECT_EQ(icon->geometry(), QRect(173, 170, 20, 20));
+
+    QTest::mousePress(icon, Qt::RightButton);
+    RemoveSelectedIcon();
+    EXPECT_FALSE(icon->isVisibleTo(&month));
+}
+}  // namespace
