@@ -236,7 +236,7 @@ void frmMain::fillShellCalls() {
     Shell = {};
     Shell.openView = [this](int view) { return openView(view); };
     Shell.showDrawn = [this] {
-        if (auto* window = calendarWindow()) window->showDrawn();
+        if (calendar_ != nullptr) calendar_->showDrawn();
     };
     Shell.setCaption = [this](const std::string& caption) { setWindowTitle(FromText(caption)); };
     Shell.enableItem = [this](const char* item, bool enabled) { menus_.enable(QString::fromLatin1(item), enabled); };
@@ -269,7 +269,7 @@ void frmMain::fillShellCalls() {
         for (std::size_t i = 0; i < 3; ++i) imgCal[i]->setLatched(Views[i] == view);
     };
     Shell.captionMonth = [this](int index, const std::string& caption) {
-        if (auto* window = calendarWindow()) window->captionMonth(index, FromText(caption));
+        if (calendar_ != nullptr) calendar_->captionMonth(index, FromText(caption));
     };
     Shell.layOutMonth = [](bool templateMode) {
         if (auto* month = OpenedWindow<frmMonth>()) month->setTemplateMode(templateMode);
@@ -304,6 +304,7 @@ std::vector<Canvas*> frmMain::openView(int view) {
     loaded(view == 1, OpenedWindow<frmMonth>(), [] { return new frmMonth; });
     loaded(view == 6, OpenedWindow<frm6Months>(), [] { return new frm6Months; });
     loaded(view == 12, OpenedWindow<frmYear>(), [] { return new frmYear; });
+    calendar_ = window;
     if (window == nullptr) return {};
     if (window->parentWidget() != middle_) {
         middle_->layout()->addWidget(window);
@@ -312,10 +313,6 @@ std::vector<Canvas*> frmMain::openView(int view) {
         window->setFocus();
     }
     return window->canvases();
-}
-
-MonthsWindow* frmMain::calendarWindow() const {
-    return middle_->findChild<MonthsWindow*>(QString(), Qt::FindDirectChildrenOnly);
 }
 
 // -- Start and end --------------------------------------------------------------------------------------------------

@@ -5,6 +5,7 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <array>
 
@@ -68,7 +69,6 @@ class frmMain : public Window {
     void loadComboBoxes();
 
     std::vector<Canvas*> openView(int view);
-    MonthsWindow* calendarWindow() const;
     void cmbYear_LostFocus();
     void cmdAlert_MouseDown(Qt::MouseButton button);
     void lstAlerts_Click();
@@ -79,7 +79,8 @@ class frmMain : public Window {
     void arrangePanels();
 
     Menus menus_;
-    QWidget* middle_;  // where the calendar windows stand
+    QWidget* middle_;                  // where the calendar windows stand
+    QPointer<MonthsWindow> calendar_;  // the one that is open
 };
 
 /// The main window's menu table.
