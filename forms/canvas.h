@@ -46,7 +46,8 @@ class Canvas {
     virtual double textWidth(std::string_view text, const Font& font) = 0;
     /// The height of a line of text.
     virtual double textHeight(const Font& font) = 0;
-    /// The picture file scaled into the middle of the rectangle, in its own proportions. Throws Error 53 or 75 if it cannot be read.
+    /// The picture file scaled into the middle of the rectangle, in its own proportions. Throws Error 53 or 75 if it
+    /// cannot be read.
     virtual void picture(double x, double y, double width, double height, const Path& file) = 0;
     /// On paper: the next page. On a screen it does nothing.
     virtual void newPage() = 0;

@@ -66,6 +66,14 @@ frmMain::frmMain() : Window("frmMain", QStringLiteral("Tasmoro")) {
     loadComboBoxes();
 }
 
+// Nobody calls a window that is gone.
+frmMain::~frmMain() {
+    Shell = {};
+    ShowCategoriesInMenus = nullptr;
+    OpenBirthdayManager = OpenHolidayManager = nullptr;
+    ShowAlertIndicator = ShowBirthdayIndicator = ShowPendingAlerts = ShowPendingBirthdays = nullptr;
+}
+
 // -- Building -------------------------------------------------------------------------------------------------------
 
 void frmMain::buildMenus() {
@@ -156,6 +164,7 @@ void frmMain::buildIndicators(QWidget* strip) {
     cmdAlert = Named(new QPushButton(QStringLiteral("No Pending Alerts"), strip), QStringLiteral("cmdAlert"));
     cmdAlert->setToolTip(QStringLiteral("Click to View"));
     cmdAlert->installEventFilter(this);
+    connect(cmdAlert, &QPushButton::clicked, this, [] { OpenAlertManager(true); });
     row->addWidget(cmdAlert);
 }
 
@@ -371,8 +380,8 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
     }
     if (event->type() == QEvent::FocusOut && watched == cmbYear->lineEdit()) cmbYear_LostFocus();
     if (event->type() == QEvent::MouseButtonPress && watched == cmdAlert) {
-        cmdAlert_MouseDown(static_cast<QMouseEvent*>(event)->button());
-        return true;
+        const auto button = static_cast<QMouseEvent*>(event)->button();
+        if (button != Qt::LeftButton) IgnorePendingAlerts();
     }
     if (event->type() == QEvent::ToolTip && watched == lblDate)
         lblDate->setToolTip(FromText("The time is now " + FormatTime(Now().second, "hh:mm:ss AM/PM ")));
@@ -382,13 +391,6 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
 void frmMain::cmbYear_LostFocus() {
     const QString full = FromText(FullYearText(ToText(cmbYear->currentText())));
     if (full != cmbYear->currentText()) cmbYear->setEditText(full);
-}
-
-void frmMain::cmdAlert_MouseDown(Qt::MouseButton button) {
-    if (button == Qt::LeftButton)
-        OpenAlertManager(true);
-    else
-        IgnorePendingAlerts();
 }
 
 void frmMain::lstAlerts_Click() {

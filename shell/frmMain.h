@@ -19,6 +19,7 @@ class frmMain : public Window {
 
   public:
     frmMain();
+    ~frmMain() override;
 
     /// The start-up sequence, ending in the one-year view. Once, before the window is shown.
     void startUp();
@@ -70,7 +71,6 @@ class frmMain : public Window {
 
     std::vector<Canvas*> openView(int view);
     void cmbYear_LostFocus();
-    void cmdAlert_MouseDown(Qt::MouseButton button);
     void lstAlerts_Click();
     void lstBirthdays_Click();
     void showAlertIndicator();

@@ -29,6 +29,7 @@ void Menus::build(QMenuBar* bar, const std::vector<MenuItem>& table) {
             action = new QAction(item.caption, owner);
             owner->addAction(action);
             action->setEnabled(static_cast<bool>(item.command));
+            action->setProperty("hasCommand", static_cast<bool>(item.command));
             if (item.command) QObject::connect(action, &QAction::triggered, owner, item.command);
         }
         action->setObjectName(item.name);

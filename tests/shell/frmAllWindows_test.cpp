@@ -1,0 +1,154 @@
+// A sweep over every window: names, accessible names, and that no button or menu item stands there without a command.
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QComboBox>
+#include <QMenu>
+#include <QMetaMethod>
+#include <QSet>
+#include <functional>
+
+#include "calendar/frm6Months.h"
+#include "calendar/frmMonth.h"
+#include "calendar/frmYear.h"
+#include "calendar/modShell.h"
+#include "marks/frmColors.h"
+#include "marks/frmIconTag.h"
+#include "marks/frmIcons.h"
+#include "marks/frmMarkers.h"
+#include "notes/frmAddFUT.h"
+#include "notes/frmEditFUT.h"
+#include "notes/frmFUT.h"
+#include "notes/frmHelp.h"
+#include "notes/frmNoteList.h"
+#include "notes/frmNotes.h"
+#include "notes/frmPref.h"
+#include "notes/frmSearch.h"
+#include "notes/frmToDo.h"
+#include "reminders/frmAlert.h"
+#include "reminders/frmBDay.h"
+#include "reminders/frmHolidays.h"
+#include "shell/frmMain.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+#include "tools/frmAlarm.h"
+#include "tools/frmDateDiff.h"
+#include "tools/frmNumDays.h"
+
+namespace {
+struct Case {
+    const char* name;
+    std::function<Window*()> make;
+};
+
+void PrintTo(const Case& one, std::ostream* out) { *out << one.name; }
+
+template <class W>
+Case Of(const char* name) {
+    return {name, [] { return static_cast<Window*>(new W); }};
+}
+
+const std::vector<Case>& AllWindows() {
+    static const std::vector<Case> all{
+        Of<frmMain>("frmMain"),         Of<frmMonth>("frmMonth"),       Of<frm6Months>("frm6Months"),
+        Of<frmYear>("frmYear"),         Of<frmColors>("frmColors"),     Of<frmMarkers>("frmMarkers"),
+        Of<frmIcons>("frmIcons"),       Of<frmIconTag>("frmIconTag"),   Of<frmNotes>("frmNotes"),
+        Of<frmNoteList>("frmNoteList"), Of<frmSearch>("frmSearch"),     Of<frmFUT>("frmFUT"),
+        Of<frmAddFUT>("frmAddFUT"),     Of<frmEditFUT>("frmEditFUT"),   Of<frmPref>("frmPref"),
+        Of<frmToDo>("frmToDo"),         Of<frmHelp>("frmHelp"),         Of<frmAlert>("frmAlert"),
+        Of<frmBDay>("frmBDay"),         Of<frmHolidays>("frmHolidays"), Of<frmDateDiff>("frmDateDiff"),
+        Of<frmNumDays>("frmNumDays"),   Of<frmAlarm>("frmAlarm"),
+    };
+    return all;
+}
+
+/// What is shown and has no command for good.
+const QSet<QString>& WithoutCommand() {
+    static const QSet<QString> names{
+        QStringLiteral("mnuView"),
+        QStringLiteral("mnuManageBudget"),
+        QStringLiteral("mnuDateFind"),
+        QStringLiteral("mnuToolsShowTime"),
+        QStringLiteral("mnuOptDateViewAlert"),
+        QStringLiteral("mnuDateDiffCYears"),
+        QStringLiteral("mnuDateDiffCMonths"),
+        QStringLiteral("mnuDateDiffCWeeks"),
+        QStringLiteral("mnuFileSaveAs"),
+    };
+    return names;
+}
+
+/// Whether somebody listens to the signal: the toolkit tells only the object itself.
+struct Listened : QAbstractButton {
+    static bool to(const QObject* sender, const char* signal) {
+        const QMetaObject* type = sender->metaObject();
+        return (sender->*&Listened::isSignalConnected)(type->method(type->indexOfSignal(signal)));
+    }
+};
+
+bool Reacts(const QAbstractButton* button) {
+    for (const char* signal : {"clicked(bool)", "toggled(bool)", "pressed()", "released()"})
+        if (Listened::to(button, signal)) return true;
+    return button->group() != nullptr && Listened::to(button->group(), "idClicked(int)");
+}
+
+bool IsOurs(const QWidget* control) {
+    return !control->objectName().isEmpty() && !control->objectName().startsWith(QStringLiteral("qt_"));
+}
+
+class EveryWindow : public testing::TestWithParam<Case> {
+  protected:
+    EveryWindow() {
+        CurrentName = GetParam().name;
+        // What windows say when they open on an empty folder is not what is looked at here.
+        SetDialogs({[](const std::string&, Buttons, const std::string&) { return Answer::Ok; },
+                    [](const std::string&, const std::string&, const std::string&) { return std::nullopt; }});
+        window_ = GetParam().make();
+    }
+    ~EveryWindow() override {
+        UnloadAllWindows();
+        Shell = {};
+        SetDialogs({});
+    }
+
+    TemporaryFolder folder_;
+    Window* window_ = nullptr;
+    std::string CurrentName;
+};
+
+TEST_P(EveryWindow, NamesItsControlsOnce) {
+    EXPECT_EQ(window_->objectName().toStdString(), CurrentName);
+    QSet<QString> seen;
+    for (const QWidget* control : window_->findChildren<QWidget*>()) {
+        if (!IsOurs(control)) continue;
+        EXPECT_FALSE(seen.contains(control->objectName())) << control->objectName().toStdString() << " is there twice";
+        seen.insert(control->objectName());
+    }
+}
+
+TEST_P(EveryWindow, SpeaksOfWhatTheKeyboardReaches) {
+    for (const QWidget* control : window_->findChildren<QWidget*>()) {
+        if (!IsOurs(control) || (control->focusPolicy() & Qt::TabFocus) == 0) continue;
+        const auto* button = qobject_cast<const QAbstractButton*>(control);
+        const bool speaks = !control->accessibleName().isEmpty() || (button != nullptr && !button->text().isEmpty());
+        EXPECT_TRUE(speaks) << control->objectName().toStdString() << " has no accessible name";
+    }
+}
+
+TEST_P(EveryWindow, HasACommandBehindEveryButtonAndItem) {
+    for (const auto* button : window_->findChildren<QAbstractButton*>()) {
+        if (!IsOurs(button) || !button->isEnabled() || button->isCheckable()) continue;
+        EXPECT_TRUE(Reacts(button)) << button->objectName().toStdString();
+    }
+    for (const auto* action : window_->findChildren<QAction*>()) {
+        if (!action->objectName().startsWith(QStringLiteral("mnu")) || action->menu() != nullptr) continue;
+        const bool wired = action->property("hasCommand").toBool();
+        EXPECT_NE(wired, WithoutCommand().contains(action->objectName())) << action->objectName().toStdString();
+        EXPECT_TRUE(wired || !action->isEnabled()) << action->objectName().toStdString();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, EveryWindow, testing::ValuesIn(AllWindows()),
+                         [](const auto& one) { return std::string(one.param.name); });
+}  // namespace
