@@ -138,10 +138,9 @@ std::unique_ptr<Canvas> BeginOnPaper(const std::string& title) {
     return std::make_unique<PageCanvas>(std::move(printer));
 }
 
-std::unique_ptr<Canvas> BeginInFile(const QString& path, const std::string& title) {
+std::unique_ptr<Canvas> BeginInFile(const QString& path, const QPageLayout& layout, const std::string& title) {
     auto file = std::make_unique<QPdfWriter>(path);
-    file->setPageSize(QPageSize(QPageSize::A4));
-    file->setPageMargins(QMarginsF());
+    file->setPageLayout(layout);
     file->setTitle(FromText(title));
     return std::make_unique<PageCanvas>(std::move(file));
 }
@@ -151,7 +150,9 @@ void InstallPrinter() {
     SetPrinter({PrinterNames, SelectPrinter, [] { CurrentPrinter(); }, BeginOnPaper});
 }
 
-void InstallPdfPrinter(const QString& path) {
+QPageLayout A4Sheet() { return {QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF()}; }
+
+void InstallPdfPrinter(const QString& path, const QPageLayout& layout) {
     SetPrinter({[] { return std::vector<std::string>{"PDF"}; }, [](const std::string&) {}, [] {},
-                [path](const std::string& title) { return BeginInFile(path, title); }});
+                [path, layout](const std::string& title) { return BeginInFile(path, layout, title); }});
 }

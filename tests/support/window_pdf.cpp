@@ -7,11 +7,9 @@
 #include <QProcess>
 #include <utility>
 
-#include "forms/qt/printer.h"
-
-PdfPrinter::PdfPrinter(const QString& folder)
+PdfPrinter::PdfPrinter(const QString& folder, const QPageLayout& layout)
     : path_(folder + QStringLiteral("/printed.pdf")), previous_(SetPrinter({})), wasAvailable_(PrinterAvailable) {
-    InstallPdfPrinter(path_);
+    InstallPdfPrinter(path_, layout);
     CheckPrinter();
 }
 

@@ -5,11 +5,12 @@
 #include <QStringList>
 
 #include "forms/printer.h"
+#include "forms/qt/printer.h"
 
 /// While one lives, what is printed goes into a PDF file in the folder, and a printer is available.
 class PdfPrinter {
   public:
-    explicit PdfPrinter(const QString& folder);
+    explicit PdfPrinter(const QString& folder, const QPageLayout& layout = A4Sheet());
     PdfPrinter(const PdfPrinter&) = delete;
     PdfPrinter& operator=(const PdfPrinter&) = delete;
     ~PdfPrinter();
