@@ -86,9 +86,11 @@ void PlacedIcons::put(IconImage* icon, const PlacedIcon& placed) const {
     const double unitX = picMonth->width() / GridWidth;
     const double unitY = picMonth->height() / GridHeight;
     const QString caption = FromText(IconCaption.at(static_cast<std::size_t>(placed.palette)));
+    if (icon->toolTip() != caption) {
+        icon->setToolTip(caption);
+        icon->setAccessibleName(caption);
+    }
     icon->setPicture(PictureOfSlot(placed.palette));
-    icon->setToolTip(caption);
-    icon->setAccessibleName(caption);
     icon->setSide(qRound(IconWidth * unitX));
     icon->move(qRound(placed.left * unitX), qRound(placed.top * unitY));
 }

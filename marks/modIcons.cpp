@@ -311,20 +311,25 @@ void ResetMonthIcons(Date month) {
     Icons.month = FirstOfMonth(month);
     Icons.ofTemplate = TemplateMode;
     if (!IconsChanged) EmptyMonth();
-    Run(ShowPlacedIcons);
 }
 
 void SetMonthIconFile(Date date) { MonthIconFile = FormatDate(date, "mmm") + "_Icons.dat"; }
 
 MonthIcons PlaceMonthIcons() {
-    if (IconsChanged) return MonthIcons::Modified;
+    if (IconsChanged) {
+        Run(ShowPlacedIcons);
+        return MonthIcons::Modified;
+    }
     const Path folder = FolderOfMonth();
     if (FileExists(folder, FormatDate(*Icons.month, "mmm") + "_Icons.dat")) {
         Read1MonthIcons();
         std::error_code ignored;
         return std::filesystem::file_size(FileOfMonth(), ignored) == 0 ? MonthIcons::MarksOnly : MonthIcons::Modified;
     }
-    if (!FileExists(DataFolder(), TemplateName)) return MonthIcons::Untouched;
+    if (!FileExists(DataFolder(), TemplateName)) {
+        Run(ShowPlacedIcons);
+        return MonthIcons::Untouched;
+    }
     ReadTemplateTags();
     return MonthIcons::Template;
 }
@@ -334,7 +339,10 @@ bool AnyIconPlaced() {
 }
 
 void ReadTemplateTags() {
-    if (IconsChanged) return;
+    if (IconsChanged) {
+        Run(ShowPlacedIcons);
+        return;
+    }
     Reporting("ReadTemplateTags", [] {
         std::exception_ptr failure;
         if (FileExists(DataFolder(), TemplateName))

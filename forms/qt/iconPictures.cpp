@@ -111,6 +111,7 @@ void IconImage::setPicture(int picture) {
 }
 
 void IconImage::setSide(int side) {
+    if (side_ == side) return;
     side_ = side;
     resize(side, side);
 }
