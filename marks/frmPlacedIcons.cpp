@@ -4,8 +4,11 @@
 #include <QApplication>
 #include <QDrag>
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QMimeData>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QToolTip>
 #include <optional>
 #include <utility>
 
@@ -54,17 +57,19 @@ bool MeansDrag(const QMouseEvent* event, QPoint pressedAt) {
            (event->globalPosition().toPoint() - pressedAt).manhattanLength() >= QApplication::startDragDistance();
 }
 
-PlacedIcons::PlacedIcons(PictureBox* month) : QObject(month), picMonth(month) {
+PlacedIcons::PlacedIcons(PictureBox* month) : QWidget(month), picMonth(month) {
+    Named(this, QStringLiteral("picIcon"), tr("Icons"));
+    setMouseTracking(true);
+    resize(month->size());
     picMonth->setAcceptDrops(true);
     picMonth->installEventFilter(this);
     LoadPicture = LoadIconPicture;
-    ShowPlacedIcons = [this] { show(); };
+    ShowPlacedIcons = [this] { showIcons(); };
     ShowPalette = ShowPaletteWindow;
     ClosePalette = [] {
         if (auto* palette = OpenedWindow<frmIcons>()) palette->close();
     };
     MonthWindowOpen = true;
-    show();
 }
 
 PlacedIcons::~PlacedIcons() {
@@ -72,48 +77,67 @@ PlacedIcons::~PlacedIcons() {
     ShowPlacedIcons = nullptr;
 }
 
-void PlacedIcons::show() {
-    for (std::size_t i = 0; i < std::max(IconPool.size(), picIcon.size()); ++i) {
-        if (i >= picIcon.size()) picIcon.push_back(makeIcon(static_cast<int>(i)));
-        const bool visible = i < IconPool.size() && IconPool[i].visible;
-        if (visible) put(picIcon[i], IconPool[i]);
-        picIcon[i]->setVisible(visible);
-    }
+void PlacedIcons::showIcons() {
+    update();
     if (CalendarView == 1) Tell(Shell.enableItem, "mnuOptDateRemoveAll", AnyIconPlaced());
 }
 
-void PlacedIcons::put(IconImage* icon, const PlacedIcon& placed) const {
-    const double unitX = picMonth->width() / GridWidth;
-    const double unitY = picMonth->height() / GridHeight;
-    const QString caption = FromText(IconCaption.at(static_cast<std::size_t>(placed.palette)));
-    if (icon->toolTip() != caption) {
-        icon->setToolTip(caption);
-        icon->setAccessibleName(caption);
-    }
-    icon->setPicture(PictureOfSlot(placed.palette));
-    icon->setSide(qRound(IconWidth * unitX));
-    icon->move(qRound(placed.left * unitX), qRound(placed.top * unitY));
+QRect PlacedIcons::placeOf(int icon) const {
+    const PlacedIcon& placed = IconPool.at(static_cast<std::size_t>(icon));
+    const double unitX = width() / GridWidth;
+    const double unitY = height() / GridHeight;
+    const int side = qRound(IconWidth * unitX);
+    return {qRound(placed.left * unitX), qRound(placed.top * unitY), side, side};
 }
 
-IconImage* PlacedIcons::makeIcon(int index) {
-    auto* icon = Named(new IconImage(Pixels(IconTwips), picMonth), ElementName("picIcon", index));
-    connect(icon, &IconImage::mouseDown, this, [this, index](QMouseEvent* event) { picIcon_MouseDown(index, event); });
-    connect(icon, &IconImage::mouseMove, this, [this, index](QMouseEvent* event) { picIcon_MouseMove(index, event); });
-    connect(icon, &IconImage::mouseUp, this, [this] { armed_ = false; });
-    return icon;
+int PlacedIcons::iconAt(QPoint point) const {
+    for (int icon = static_cast<int>(IconPool.size()) - 1; icon >= 0; --icon)
+        if (IconPool[static_cast<std::size_t>(icon)].visible && placeOf(icon).contains(point)) return icon;
+    return -1;
+}
+
+void PlacedIcons::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    for (std::size_t i = 0; i < IconPool.size(); ++i) {
+        if (!IconPool[i].visible) continue;
+        const QRect place = placeOf(static_cast<int>(i));
+        painter.drawPixmap(place.topLeft(),
+                           IconPixmap(PictureOfSlot(IconPool[i].palette), place.width(), devicePixelRatioF()));
+    }
+}
+
+bool PlacedIcons::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip && showToolTip(static_cast<QHelpEvent*>(event))) return true;
+    return QWidget::event(event);
+}
+
+bool PlacedIcons::showToolTip(QHelpEvent* event) {
+    const int icon = iconAt(event->pos());
+    if (icon < 0) return false;
+    const auto palette = static_cast<std::size_t>(IconPool[static_cast<std::size_t>(icon)].palette);
+    QToolTip::showText(event->globalPos(), FromText(IconCaption.at(palette)).toHtmlEscaped(), this, placeOf(icon));
+    return true;
+}
+
+void PlacedIcons::mousePressEvent(QMouseEvent* event) {
+    const int icon = iconAt(event->position().toPoint());
+    if (icon < 0)
+        event->ignore();
+    else
+        picIcon_MouseDown(icon, event);
 }
 
 void PlacedIcons::picIcon_MouseDown(int index, QMouseEvent* event) {
     Icons.currentIcon = index;
-    armed_ = event->button() == Qt::LeftButton;
+    armed_ = event->button() == Qt::LeftButton ? index : -1;
     pressedAt_ = event->globalPosition().toPoint();
-    if (armed_) {
+    if (armed_ >= 0) {
         if (auto* palette = OpenedWindow<frmIcons>()) palette->raise();
         return;
     }
     if (event->button() != Qt::RightButton || ShownMonths.empty()) return;
     // The menu's other commands mean the day that the icon stands on.
-    const QPointF point = picMonth->toScale(picIcon[static_cast<std::size_t>(index)]->geometry().center());
+    const QPointF point = picMonth->toScale(placeOf(index).center());
     SelectAt(ShownMonths.front(), point.x(), point.y());
     ShowHover(HoverAt(ShownMonths.front(), point.x(), point.y()));
     Q_EMIT selected();
@@ -121,11 +145,21 @@ void PlacedIcons::picIcon_MouseDown(int index, QMouseEvent* event) {
     Tell(Shell.popUpDateOptions);
 }
 
-void PlacedIcons::picIcon_MouseMove(int index, QMouseEvent* event) {
-    if (!armed_ || !MeansDrag(event, pressedAt_)) return;
-    armed_ = false;
-    BeginDragOfIcon(index);
-    DragIcon(picMonth, picIcon[static_cast<std::size_t>(index)]->picture());
+void PlacedIcons::mouseMoveEvent(QMouseEvent* event) {
+    if (armed_ < 0 && iconAt(event->position().toPoint()) < 0) event->ignore();
+    if (armed_ < 0 || !MeansDrag(event, pressedAt_)) return;
+    const int icon = std::exchange(armed_, -1);
+    if (icon >= static_cast<int>(IconPool.size()) || IconPool[static_cast<std::size_t>(icon)].free) return;
+    BeginDragOfIcon(icon);
+    DragIcon(picMonth, PictureOfSlot(DragIconIndex));
+}
+
+void PlacedIcons::mouseReleaseEvent(QMouseEvent* event) {
+    if (std::exchange(armed_, -1) < 0) event->ignore();
+}
+
+void PlacedIcons::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (iconAt(event->position().toPoint()) < 0) event->ignore();
 }
 
 void PlacedIcons::picMonth_DragDrop(QDropEvent* event) {
@@ -150,10 +184,10 @@ bool PlacedIcons::eventFilter(QObject* watched, QEvent* event) {
             picMonth_DragDrop(static_cast<QDropEvent*>(event));
             return true;
         case QEvent::Resize:
-            show();
+            resize(picMonth->size());
             break;
         default:
             break;
     }
-    return QObject::eventFilter(watched, event);
+    return QWidget::eventFilter(watched, event);
 }

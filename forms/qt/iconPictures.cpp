@@ -110,12 +110,6 @@ void IconImage::setPicture(int picture) {
     update();
 }
 
-void IconImage::setSide(int side) {
-    if (side_ == side) return;
-    side_ = side;
-    resize(side, side);
-}
-
 void IconImage::setChosen(bool chosen) {
     if (chosen_ == chosen) return;
     chosen_ = chosen;

@@ -34,7 +34,6 @@ class IconImage : public QWidget {
     int picture() const { return picture_; }
     /// -1 for none.
     void setPicture(int picture);
-    void setSide(int side);
     /// Frames the picture as the chosen one.
     void setChosen(bool chosen);
     QPixmap pixmap() const { return IconPixmap(picture_, side_, devicePixelRatioF()); }

@@ -127,7 +127,7 @@ TEST_F(IconWindows, DropsShowTheIconOnItsDay) {
     PictureBox month;
     month.resize(593, 467);
     month.canvas().setScale(GridWidth, GridHeight);
-    PlacedIcons icons(&month);
+    auto* icons = new PlacedIcons(&month);
     ResetMonthIcons(MakeDate(2026, 4, 1));
 
     BeginDragFromPalette(12);
@@ -141,14 +141,18 @@ TEST_F(IconWindows, DropsShowTheIconOnItsDay) {
     QCoreApplication::sendEvent(&month, &drop);
     EXPECT_TRUE(drop.isAccepted());
     EXPECT_EQ(MonthIconLines[0], "06:00 Index:12");
-    auto* icon = Find<IconImage>(&month, QStringLiteral("picIcon(0)"));
-    ASSERT_NE(icon, nullptr);
-    EXPECT_TRUE(icon->isVisibleTo(&month));
-    EXPECT_EQ(icon->toolTip(), QStringLiteral("Dentist"));
-    EXPECT_EQ(icon->geometry(), QRect(173, 170, 20, 20));
+    EXPECT_EQ(icons->placeOf(0), QRect(173, 170, 20, 20));
+    const QPoint middle = icons->placeOf(0).center();
+    EXPECT_EQ(icons->iconAt(middle), 0);
+    EXPECT_NE(month.grab().toImage().pixelColor(middle), QColor(Qt::white));
 
-    QTest::mousePress(icon, Qt::RightButton);
+    int clicks = 0;  // that reach the month beneath
+    QObject::connect(&month, &PictureBox::mouseDown, [&] { ++clicks; });
+    QTest::mousePress(icons, Qt::RightButton, {}, middle);
+    EXPECT_EQ(clicks, 0);
     RemoveSelectedIcon();
-    EXPECT_FALSE(icon->isVisibleTo(&month));
+    EXPECT_EQ(icons->iconAt(middle), -1);
+    QTest::mousePress(icons, Qt::RightButton, {}, middle);
+    EXPECT_EQ(clicks, 1);
 }
 }  // namespace
