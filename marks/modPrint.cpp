@@ -102,9 +102,10 @@ void PrintList(Page& page, const std::vector<DayEntry>& entries) {
     // On paper that is wider than high the lines stand closer than nine points.
     while (font.points > 5 && page.height(font) > ListPitch * 1.08) font.points -= 0.5;
     for (std::size_t i = 0; i < entries.size(); ++i) {
-        const int place = static_cast<int>(i);
-        const double x = place / ListRows * ListColumn;
-        const double y = ListTop + ListPitch * (place % ListRows);
+        const int column = static_cast<int>(i) / ListRows;
+        const int row = static_cast<int>(i) % ListRows;
+        const double x = column * ListColumn;
+        const double y = ListTop + row * ListPitch;
         page.text(x, y, std::to_string(entries[i].day) + ":", font, entries[i].color);
         page.text(x + TabStop, y, Fitting(page, entries[i].text, ListColumn - TabStop - 0.1, font), font,
                   entries[i].color);
