@@ -173,7 +173,7 @@ void frmFUT::place() {
 }
 
 void frmFUT::rememberPlace() {
-    if (!placed_ || isMinimized() || !isVisible()) return;
+    if (isMinimized() || !isVisible()) return;
     const QRect now = geometry();
     Preferences.termsPlace = {static_cast<float>(Twips(now.left())), static_cast<float>(Twips(now.top())),
                               static_cast<float>(Twips(now.width())), static_cast<float>(Twips(now.height()))};
@@ -256,7 +256,7 @@ bool frmFUT::eventFilter(QObject* watched, QEvent* event) {
 
 void frmFUT::resizeEvent(QResizeEvent* event) {
     Window::resizeEvent(event);
-    if (!placed_ || isMinimized() || !isVisible()) return;
+    if (isMinimized() || !isVisible()) return;
     rememberPlace();
     const int smallest =
         std::max(SmallestHeight, layout()->minimumSize().height() - lstFUT->minimumSizeHint().height());

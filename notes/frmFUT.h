@@ -65,7 +65,6 @@ class frmFUT : public Window {
     void mnuWindowSavePosition_Click();
 
     Menus menus_;
-    bool placed_ = false;   // shown at its place: from now on its moves are the user's
     bool telling_ = false;  // the message about the size is on the screen
 };
 

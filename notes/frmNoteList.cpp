@@ -77,7 +77,7 @@ void frmNoteList::populateListBoxes() {
 }
 
 void frmNoteList::cmdOpen_Click() {
-    if (lst->currentRow() < 0)
+    if (lst->currentItem() == nullptr || !lst->currentItem()->isSelected())
         ShowMessage("Nothing has been selected.");
     else
         Reporting("cmdOpen_Click", [this] { OpenListedNote(listedYear_, EntryAt(lst, lst->currentRow())); });

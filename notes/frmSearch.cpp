@@ -113,7 +113,7 @@ void frmSearch::search(const std::string& phrase) {
 }
 
 void frmSearch::cmdOpen_Click() {
-    if (lstResults->currentRow() < 0) {
+    if (lstResults->currentItem() == nullptr || !lstResults->currentItem()->isSelected()) {
         ShowMessage("Nothing has been selected.");
         return;
     }

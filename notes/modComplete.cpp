@@ -15,6 +15,18 @@ const ClearedAtStart ClearCompletion([] { Completion = {}; });
 
 // -- The index ------------------------------------------------------------------------------------------------------
 
+namespace {
+constexpr std::size_t LongestRunKey = 3;
+
+/// The first three characters, or as many as there are, as one number.
+std::uint32_t RunKey(std::string_view capitals) {
+    const std::string_view beginning = capitals.substr(0, LongestRunKey);
+    std::uint32_t key = static_cast<std::uint32_t>(beginning.size());
+    for (const char c : beginning) key = key << 8 | static_cast<unsigned char>(c);
+    return key;
+}
+}  // namespace
+
 TermIndex::TermIndex(const std::vector<std::string>& terms) {
     const std::size_t count = terms.size();
     std::vector<std::string> capitals(count);
@@ -25,8 +37,13 @@ TermIndex::TermIndex(const std::vector<std::string>& terms) {
     firsts_.resize(2 * count);
     keys_.reserve(count);
     for (std::size_t i = 0; i < count; ++i) {
-        longest_ = std::max(longest_, terms[i].size());
+        longest_ = std::max(longest_, terms[order[i]].size());
         firsts_[count + i] = order[i];
+        for (std::size_t length = 0; length <= std::min(LongestRunKey, terms[order[i]].size()); ++length) {
+            const auto run = runs_.try_emplace(RunKey(capitals[order[i]].substr(0, length)), Run{i, i, count}).first;
+            run->second.end = i + 1;
+            run->second.first = std::min(run->second.first, order[i]);
+        }
         keys_.push_back(std::move(capitals[order[i]]));
     }
     for (std::size_t i = count; i-- > 1;) firsts_[i] = std::min(firsts_[2 * i], firsts_[2 * i + 1]);
@@ -45,9 +62,13 @@ std::size_t TermIndex::firstOf(std::size_t from, std::size_t to) const {
 std::optional<std::size_t> TermIndex::find(std::string_view fragment) const {
     if (fragment.size() > longest_) return {};
     const std::string capitals = UpperCase(fragment);
-    const auto begin = std::lower_bound(keys_.begin(), keys_.end(), capitals);
+    const auto run = runs_.find(RunKey(capitals));
+    if (run == runs_.end()) return {};
+    if (capitals.size() <= LongestRunKey) return run->second.first;
+    const auto at = [&](std::size_t i) { return keys_.begin() + static_cast<std::ptrdiff_t>(i); };
+    const auto begin = std::lower_bound(at(run->second.begin), at(run->second.end), capitals);
     const auto end =
-        std::partition_point(begin, keys_.end(), [&](const auto& key) { return key.starts_with(capitals); });
+        std::partition_point(begin, at(run->second.end), [&](const auto& key) { return key.starts_with(capitals); });
     if (begin == end) return {};
     return firstOf(static_cast<std::size_t>(begin - keys_.begin()), static_cast<std::size_t>(end - keys_.begin()));
 }

@@ -2,10 +2,12 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 /// Finds the first term of a list, in the list's own order, that begins with a fragment. It searches: the order of the
@@ -21,7 +23,15 @@ class TermIndex {
     std::size_t longest() const { return longest_; }
 
   private:
+    /// A run of keys_ with one beginning, and the least position of its terms in the list.
+    struct Run {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        std::size_t first = 0;
+    };
     std::size_t firstOf(std::size_t from, std::size_t to) const;
+
+    std::unordered_map<std::uint32_t, Run> runs_;  // by the first one, two and three characters
 
     std::vector<std::string> keys_;    // the terms in capitals, sorted by code
     std::vector<std::size_t> firsts_;  // a tree of least positions over keys_; leaves are its second half

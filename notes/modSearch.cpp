@@ -29,54 +29,32 @@ const FoldTable& NoteFold() {
     }();
     return table;
 }
-
-char FoldedNote(char c) { return NoteFold()[static_cast<unsigned char>(c)]; }
 }  // namespace
 
 // -- The phrase -----------------------------------------------------------------------------------------------------
 
 PhraseFinder::PhraseFinder(std::string_view phrase) : folded_(LowerCase(phrase)) {
-    if (folded_.empty()) return;
-    const auto bothCases = [](char c) {
-        const char upper = UpperCase(c);
-        return std::array<char, 2>{c, FoldedNote(upper) == c ? upper : c};
-    };
-    first_ = bothCases(folded_.front());
-    last_ = bothCases(folded_.back());
-}
-
-bool PhraseFinder::matchesAt(const char* text) const {
-    return std::equal(folded_.begin(), folded_.end(), text,
-                      [](char wanted, char c) { return wanted == FoldedNote(c); });
-}
-
-bool PhraseFinder::matchesWithin(const char* text, std::size_t positions) const {
-    for (std::size_t i = 0; i < positions; ++i)
-        if (matchesAt(text + i)) return true;
-    return false;
+    // The last place of each character before the phrase's end; a character that is not in it is stepped over whole.
+    for (std::size_t code = 0; code < step_.size(); ++code) {
+        step_[code] = folded_.size();
+        for (std::size_t i = 0; i + 1 < folded_.size(); ++i)
+            if (folded_[i] == NoteFold()[code]) step_[code] = folded_.size() - 1 - i;
+    }
 }
 
 bool PhraseFinder::isIn(std::string_view note) const {
     const std::size_t length = folded_.size();
     if (length == 0) return true;
-    if (note.size() < length) return false;
-    // Most places are ruled out by the phrase's first and last character. Looking at them block by block, without a
-    // decision inside the block, lets the machine take many places at a time.
-    constexpr std::size_t Block = 64;
-    const std::size_t places = note.size() - length + 1;
-    std::size_t at = 0;
-    for (; at + Block <= places; at += Block) {
-        const char* firsts = note.data() + at;
-        const char* lasts = firsts + length - 1;
-        unsigned char possible = 0;
-        for (std::size_t i = 0; i < Block; ++i) {
-            const auto first = static_cast<unsigned char>((firsts[i] == first_[0]) | (firsts[i] == first_[1]));
-            const auto last = static_cast<unsigned char>((lasts[i] == last_[0]) | (lasts[i] == last_[1]));
-            possible = static_cast<unsigned char>(possible | (first & last));
-        }
-        if (possible != 0 && matchesWithin(firsts, Block)) return true;
+    const FoldTable& fold = NoteFold();
+    for (std::size_t end = length; end <= note.size();) {
+        const auto last = static_cast<unsigned char>(note[end - 1]);
+        if (fold[last] == folded_.back() &&
+            std::equal(folded_.begin(), folded_.end(), note.data() + end - length,
+                       [&](char wanted, char c) { return wanted == fold[static_cast<unsigned char>(c)]; }))
+            return true;
+        end += step_[last];
     }
-    return matchesWithin(note.data() + at, places - at);
+    return false;
 }
 
 // -- The notes of a year --------------------------------------------------------------------------------------------

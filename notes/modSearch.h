@@ -19,12 +19,8 @@ class PhraseFinder {
     bool isIn(std::string_view encodedNote) const;
 
   private:
-    bool matchesAt(const char* text) const;
-    bool matchesWithin(const char* text, std::size_t positions) const;
-
     std::string folded_;
-    std::array<char, 2> first_{};  // the phrase's first character in both its cases
-    std::array<char, 2> last_{};
+    std::array<std::size_t, 256> step_{};  // by the character under the phrase's end: how far the phrase may move on
 };
 
 /// What the search window remembers for the whole run.

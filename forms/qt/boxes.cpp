@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <algorithm>
 
 #include "base/dialogs.h"
 #include "base/text.h"
@@ -28,6 +29,15 @@ QString Shown(const std::string& utf8) {
     return QString::fromStdString(utf8).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).trimmed();
 }
 
+/// A box must not open behind a window that is kept above the others.
+void KeepInFront(QWidget& box) {
+    const auto windows = QApplication::topLevelWidgets();
+    const bool covered = std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    });
+    if (covered) box.setWindowFlag(Qt::WindowStaysOnTopHint);
+}
+
 Answer ShowBox(const std::string& text, Buttons buttons, const std::string& title) {
     QMessageBox box(QMessageBox::NoIcon, QString::fromStdString(title), Shown(text), ButtonsOf(buttons),
                     QApplication::activeWindow());
@@ -35,6 +45,7 @@ Answer ShowBox(const std::string& text, Buttons buttons, const std::string& titl
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
     if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
+    KeepInFront(box);
     switch (box.exec()) {
         case QMessageBox::Yes:
             return Answer::Yes;
@@ -57,6 +68,7 @@ std::optional<std::string> ShowInput(const std::string& prompt, const std::strin
         box.setLabelText(Shown(prompt));
         box.setTextValue(typed);
         box.resize(420, box.sizeHint().height());
+        KeepInFront(box);
         if (box.exec() != QDialog::Accepted) return std::nullopt;
         typed = box.textValue();
         if (auto text = TextToSave(typed)) return text;

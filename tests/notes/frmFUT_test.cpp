@@ -1,0 +1,119 @@
+// The terms window and its dialogs.
+#include "notes/frmFUT.h"
+
+#include <gtest/gtest.h>
+
+#include <QTest>
+
+#include "calendar/modCalendar.h"
+#include "notes/frmAddFUT.h"
+#include "notes/frmEditFUT.h"
+#include "notes/frmNotes.h"
+#include "notes/modFUT.h"
+#include "notes/modNotes.h"
+#include "shell/modPreferences.h"
+#include "tests/support/dialogs.h"
+#include "tests/support/folder.h"
+
+namespace {
+struct TermsWindow : testing::Test {
+    TermsWindow() {
+        InstallNoteEditor();
+        Calendar.yearOnDisplay = 2026;
+        folder.put("Home.fut", "dentist\r\nvet");
+        folder.put("Work.fut", "budget");
+        Preferences.termsFile = CurrentTermsFile = "Home.fut";
+        OpenTermsWindow();
+        window = OpenedWindow<frmFUT>();
+    }
+    ~TermsWindow() override {
+        UnloadAllWindows();
+        NoteEditor = {};
+    }
+    void select(int row) const { window->lstFUT->setCurrentRow(row); }
+    std::string title() const { return window->windowTitle().toStdString(); }
+
+    TemporaryFolder folder;
+    ScriptedDialogs boxes;
+    frmFUT* window = nullptr;
+};
+
+TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
+    EXPECT_EQ(title(), "Home");
+    window->cmdOpt[0]->click();
+    auto* add = OpenedWindow<frmAddFUT>();
+    boxes.expect("No term has been added to save.");
+    add->cmdSave->click();
+    add->txtAddFUT->setPlainText(QStringLiteral("\u4E2D"));
+    boxes.expect("\u4E2D");
+    add->cmdSave->click();
+    add->txtAddFUT->setPlainText(QStringLiteral("plumber\n electrician "));
+    add->cmdSave->click();
+    EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber\r\nvet");
+    EXPECT_EQ(window->lstFUT->count(), 4);
+    select(-1);
+    window->lstFUT->clearSelection();
+    boxes.expect("Nothing selected to edit.");
+    window->cmdOpt[1]->click();
+    boxes.expect("Nothing selected to remove.");
+    window->cmdOpt[3]->click();
+    select(3);
+    window->cmdOpt[1]->click();
+    auto* edit = OpenedWindow<frmEditFUT>();
+    EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
+    edit->txtEditFUT->setText(QStringLiteral("animal doctor"));
+    edit->cmdSave->click();
+    select(1);
+    window->cmdOpt[3]->click();
+    EXPECT_EQ(folder.get("Home.fut"), "animal doctor\r\nelectrician\r\nplumber");
+    window->cmdCase[1]->click();
+    EXPECT_EQ(window->lstFUT->item(0)->text(), QStringLiteral("Animal Doctor"));
+    window->cmdOpt[2]->click();
+    EXPECT_FALSE(AutoCompleteOn);
+    EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Enable Auto Complete"));
+}
+
+TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
+    SelectDate(MakeDate(2026, 10, 5));
+    DisplayThisNote();
+    auto* notes = OpenedWindow<frmNotes>();
+    select(1);
+    QTest::keyClick(window->lstFUT, Qt::Key_Insert);
+    QTest::keyClick(window->lstFUT, Qt::Key_Left);
+    QTest::keyClick(window->lstFUT, Qt::Key_Right);
+    EXPECT_EQ(notes->txtNotes->toPlainText(), QStringLiteral("vet vet "));
+    QTest::keyClick(notes->txtNotes, Qt::Key_F3);
+    EXPECT_EQ(title(), "Work");
+    QTest::keyClick(notes->txtNotes, Qt::Key_F3);
+    EXPECT_EQ(title(), "Home");
+    QTest::keyClick(notes->txtNotes, Qt::Key_F2);
+    EXPECT_TRUE(window->lstMoreFUT->isVisible() && !window->lstFUT->isVisible());
+    EXPECT_FALSE(window->item(QStringLiteral("mnuFile"))->isEnabled());
+    QTest::keyClick(window->lstMoreFUT, Qt::Key_Down);
+    EXPECT_EQ(title(), "Home");
+    QTest::keyClick(window->lstMoreFUT, Qt::Key_Return);
+    EXPECT_EQ(title(), "Work");
+    EXPECT_TRUE(window->lstFUT->isVisible() && window->item(QStringLiteral("mnuFile"))->isEnabled());
+    NotesChanged = false;
+    notes->close();
+    EXPECT_EQ(OpenedWindow<frmFUT>(), nullptr);
+    EXPECT_FALSE(TermsWindowOpen);
+}
+
+TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
+    folder.put("UserPreferences.txt", "");
+    window->setGeometry(50, 60, 220, 440);
+    window->item(QStringLiteral("mnuWindowSavePosition"))->trigger();
+    EXPECT_NE(folder.get("UserPreferences.txt").find("FUT Position:Left=750:Top=900:Width=3300:Height=6600"),
+              std::string::npos);
+    CloseTermsWindow();
+    Preferences.termsPlace = {150000, -90000, 3000, 6000};
+    Preferences.minimizeTerms = true;
+    OpenTermsWindow();
+    window = OpenedWindow<frmFUT>();
+    EXPECT_TRUE(window->isMinimized());
+    EXPECT_TRUE(window->screen()->geometry().contains(window->geometry()));
+    OpenTermsWindow();
+    EXPECT_FALSE(window->isMinimized());
+}
+}  // namespace
