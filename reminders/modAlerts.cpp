@@ -66,8 +66,8 @@ bool ParseAlertLine(std::string_view line, AlertRec& alert) {
     alert.date = {};
     alert.period = 0;
     alert.message = Middle(line, 12);
-    std::replace(alert.message.begin(), alert.message.end(), '\xD5', '\r');
-    std::replace(alert.message.begin(), alert.message.end(), '\xD2', '\n');
+    if (alert.message.find('\xD5') != std::string::npos || alert.message.find('\xD2') != std::string::npos)
+        alert.message = DecodedLineBreaks(alert.message);
     try {
         const Date date{static_cast<int>(IntegerValue(Middle(line, 1, 5)))};
         alert.period = SmallIntegerValue(Middle(line, 7, 4));
