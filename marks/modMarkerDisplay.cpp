@@ -5,6 +5,7 @@
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
 #include "marks/modCategories.h"
+#include "marks/modLabels.h"
 #include "marks/modMarks.h"
 #include "reminders/modBirthdays.h"
 #include "reminders/modHolidays.h"
@@ -35,6 +36,8 @@ void ShowCategory(int category, bool shown) {
     if (category == BirthdayCategory || category == HolidayCategory || category == TodaysDateCategory) {
         TodayShown = shown;
         RedrawCalendar();
+    } else if (CalendarView == 1) {
+        DisplayTTTLabels();
     }
 }
 

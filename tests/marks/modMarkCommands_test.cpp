@@ -5,6 +5,7 @@
 #include "calendar/modPaint.h"
 #include "calendar/modSelection.h"
 #include "marks/modCategories.h"
+#include "marks/modLabels.h"
 #include "marks/modMarkerDisplay.h"
 #include "marks/modMarks.h"
 #include "reminders/modBirthdays.h"
@@ -187,5 +188,10 @@ TEST_F(MarkCommands, HidingACategoryRepaintsItsDaysAndSavesNothing) {
     EXPECT_EQ(file(), "01:03:01:255-x\r\n01:04:01:8421376");
     ShowAllMarks();
     EXPECT_EQ(painted(2026, 2, 12), QuickMarksColor);
+    show(1, 2026, 2, 1);
+    EXPECT_EQ(DayLabels.labels.size(), 3u) << "a holiday and two marks";
+    ShowCategory(9, false);
+    EXPECT_EQ(DayLabels.labels.size(), 2u) << "the day labels follow at once";
+    ShowAllMarks();
     EXPECT_EQ(std::count(MarkerHidden.begin(), MarkerHidden.end(), true), 0);
 }
