@@ -8,6 +8,9 @@
 #include "marks/frmColors.h"
 #include "notes/frmHelpPanel.h"
 #include "notes/frmToDo.h"
+#include "reminders/frmAlert.h"
+#include "reminders/frmBDay.h"
+#include "reminders/frmHolidays.h"
 #include "shell/frmMain.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
@@ -73,11 +76,13 @@ TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
 TEST_F(HelpWindow, ExplainsEveryMenuCommand) {
     const Path data = TASMORO_DATA;
     read(ReadWholeFile(data / "Help_Topics.txt"));
+    folder.put("Holidays/2026Holidays.dat", "12/25/26:Christmas Day\r\n");
     folder.put("Marker Colors.dat", ReadWholeFile(data / "Marker Colors.dat"));
     QString all;
     for (const auto& text : HelpTexts) all += FromText(text);
-    const std::vector<QWidget*> windows{LoadedWindow<frmMain>(), LoadedWindow<frmColors>(), LoadedWindow<frmToDo>(),
-                                        LoadedWindow<frmHelp>(), LoadedWindow<frmAlarm>()};
+    const std::vector<QWidget*> windows{LoadedWindow<frmMain>(), LoadedWindow<frmColors>(),  LoadedWindow<frmToDo>(),
+                                        LoadedWindow<frmHelp>(), LoadedWindow<frmAlarm>(),   LoadedWindow<frmAlert>(),
+                                        LoadedWindow<frmBDay>(), LoadedWindow<frmHolidays>()};
     int commands = 0;
     for (const QWidget* window : windows) {
         for (const QAction* item : window->findChildren<QAction*>()) {
