@@ -56,7 +56,7 @@ void MonthsWindow::buildNavigation() {
 
 void MonthsWindow::buildMonthButtons(const char* name, const QString& caption) {
     for (int i = 0; i < static_cast<int>(pictures_.size()); ++i) {
-        auto* button = Named(new QPushButton(caption, picMain), ElementName(name, i));
+        auto* button = Named(new QPushButton(caption, picMain), ElementName(name, i), QStringLiteral("Open the month"));
         button->setFocusPolicy(Qt::TabFocus);
         connect(button, &QPushButton::clicked, this, [i] { OpenShownMonth(i); });
         monthButtons_.push_back(button);
