@@ -316,6 +316,7 @@ std::vector<Canvas*> frmMain::openView(int view) {
     calendar_ = window;
     if (window == nullptr) return {};
     if (window->parentWidget() != middle_) {
+        layout()->activate();
         middle_->layout()->addWidget(window);
         window->show();
         window->resize(middle_->size());
@@ -328,10 +329,14 @@ std::vector<Canvas*> frmMain::openView(int view) {
 
 void frmMain::sizeToScreen() {
     const QSize screenSize = screen()->size();
-    if (Twips(screenSize.width()) >= 15360 && Twips(screenSize.height()) >= 11520)
-        setWindowState(Qt::WindowMaximized);
-    else
+    if (Twips(screenSize.width()) < 15360 || Twips(screenSize.height()) < 11520) {
         resize(Pixels(12000), Pixels(9000));
+        return;
+    }
+    // The size it will have, but for the frame: the calendar is then drawn once and not again when the frame comes.
+    constexpr int FrameHeight = 24;
+    resize(screen()->availableSize() - QSize(0, FrameHeight));
+    setWindowState(Qt::WindowMaximized);
 }
 
 void frmMain::startUp() {

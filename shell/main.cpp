@@ -1,9 +1,13 @@
 // The program.
 #include <QApplication>
 #include <QDir>
+#include <QTimer>
+#include <optional>
+#include <utility>
 
 #include "base/dialogs.h"
 #include "base/files.h"
+#include "forms/printer.h"
 #include "forms/qt/boxes.h"
 #include "forms/qt/instanceLock.h"
 #include "forms/qt/pictures.h"
@@ -22,11 +26,10 @@ void MakeLink(bool onDesktop, const std::string& caption, const std::string& pro
 }  // namespace
 
 int main(int argc, char** argv) {
-    const FontScan fonts;
+    std::optional<FontScan> fonts(std::in_place);
     QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tasmoro"));
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setWindowIcon(ProgramIcon());
     InstallBoxes();
     const QString folder = QApplication::applicationDirPath();
     SetDataFolder(folder.toStdString());
@@ -36,9 +39,13 @@ int main(int argc, char** argv) {
     }
     InstallPrinter();
     MakeShellLink = MakeLink;
+    fonts.reset();  // the window asks for fonts: two scans beside each other would both be done to the end
     auto* window = new frmMain;
     window->sizeToScreen();
     window->startUp();
     window->show();
+    // What nobody sees or needs in the first moment waits until the calendar is on the screen.
+    QTimer::singleShot(0, window, [] { QApplication::setWindowIcon(ProgramIcon()); });
+    QTimer::singleShot(1000, window, CheckPrinter);
     return QApplication::exec();
 }

@@ -8,7 +8,6 @@
 #include "calendar/modPaint.h"
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
-#include "forms/printer.h"
 #include "marks/modCategories.h"
 #include "marks/modSaveChanges.h"
 #include "notes/modFUT.h"
@@ -23,7 +22,6 @@ void LoadPlanner() {
     InstallViews();
     GetUserPreferences();
     ReadTermsOnOpening();
-    CheckPrinter();
     Calendar.startedOn = Today();
     Calendar.yearOnDisplay = YearOf(Today());
     SelectDate(Today());
