@@ -8,6 +8,8 @@
 #include "notes/modFUT.h"
 
 frmAddFUT::frmAddFUT() : Window("frmAddFUT", QStringLiteral("Add Frequently Used Term(s)")) {
+    // The terms window, from which this one is opened, stands above all others.
+    setWindowFlag(Qt::WindowStaysOnTopHint);
     const QString prompt = QStringLiteral("Enter Frequently Used Term(s) Below");
     lblAddFUT = Named(new QLabel(prompt), QStringLiteral("lblAddFUT"));
     txtAddFUT = Named(new QPlainTextEdit, QStringLiteral("txtAddFUT"), prompt);

@@ -8,6 +8,8 @@
 #include "notes/modFUT.h"
 
 frmEditFUT::frmEditFUT() : Window("frmEditFUT", QStringLiteral("Edit Frequently Used Term")) {
+    // The terms window, from which this one is opened, stands above all others.
+    setWindowFlag(Qt::WindowStaysOnTopHint);
     const QString prompt = QStringLiteral("Edit Term Below");
     lblEditFUT = Named(new QLabel(prompt), QStringLiteral("lblEditFUT"));
     txtEditFUT = Named(new QLineEdit, QStringLiteral("txtEditFUT"), prompt);
