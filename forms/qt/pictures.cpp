@@ -362,7 +362,7 @@ QPixmap DrawPicture(Picture picture, Look look, QSize size, double pixelRatio, c
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
     const int side = std::min(device.width(), device.height());
-    painter.translate((device.width() - side) / 2, (device.height() - side) / 2);
+    painter.translate(QPoint((device.width() - side) / 2, (device.height() - side) / 2));
     Board board(painter, side / Units, InksOf(look, palette), look == Look::Exists);
     DrawOn(board, picture);
     painter.end();
