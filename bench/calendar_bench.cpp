@@ -8,6 +8,7 @@
 #include <deque>
 
 #include "base/clock.h"
+#include "base/files.h"
 #include "bench/pairs.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
@@ -31,6 +32,7 @@ std::deque<PictureCanvas>& YearOnCanvases() {
     static std::array<char*, 2> argv{name.data(), nullptr};
     qputenv("QT_QPA_PLATFORM", "offscreen");
     static QGuiApplication application(argc, argv.data());
+    SetDataFolder(std::filesystem::temp_directory_path());  // has no planner's files
     for (int i = 0; i < 12; ++i) canvases.emplace_back().resize(MonthSize, 1);
     Shell.openView = [](int) {
         std::vector<Canvas*> all;

@@ -9,7 +9,9 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
+#include <QTimer>
 #include <algorithm>
+#include <utility>
 
 #include "base/clock.h"
 #include "base/text.h"
@@ -172,6 +174,9 @@ void frmMain::buildRightPanel() {
     picRight =
         Named(new QWidget(this), QStringLiteral("picRight"), QStringLiteral("Pending alerts, birthdays and help"));
     picRight->setFixedWidth(Pixels(RightPanelWidth));
+}
+
+void frmMain::fillRightPanel() {
     auto* column = new QVBoxLayout(picRight);
     column->setContentsMargins(6, 4, 8, 4);
     column->setSpacing(3);
@@ -192,6 +197,14 @@ void frmMain::buildRightPanel() {
     connect(lstAlerts, &QListWidget::currentRowChanged, this, &frmMain::lstAlerts_Click);
     connect(lstBirthdays, &QListWidget::currentRowChanged, this, &frmMain::lstBirthdays_Click);
     column->addWidget(Named(new HelpPanel(picRight), QStringLiteral("HelpPanel"), QStringLiteral("Help")), 5);
+    ShowPendingAlerts = [this] {
+        ShowEntries(lstAlerts, PendingAlertEntries);
+        lblAlertDate->setText(QStringLiteral("Alert Date ="));
+    };
+    ShowPendingBirthdays = [this] {
+        ShowEntries(lstBirthdays, PendingBirthdayEntries);
+        lblBirthdayDate->setText(QStringLiteral("Date ="));
+    };
 }
 
 void frmMain::buildBottomPanels() {
@@ -292,14 +305,6 @@ void frmMain::fillReminderHooks() {
     OpenHolidayManager = OpenHolidayManagerFor;
     ShowAlertIndicator = [this] { showAlertIndicator(); };
     ShowBirthdayIndicator = [this] { showBirthdayIndicator(); };
-    ShowPendingAlerts = [this] {
-        ShowEntries(lstAlerts, PendingAlertEntries);
-        lblAlertDate->setText(QStringLiteral("Alert Date ="));
-    };
-    ShowPendingBirthdays = [this] {
-        ShowEntries(lstBirthdays, PendingBirthdayEntries);
-        lblBirthdayDate->setText(QStringLiteral("Date ="));
-    };
 }
 
 std::vector<Canvas*> frmMain::openView(int view) {
@@ -340,17 +345,33 @@ void frmMain::sizeToScreen() {
 }
 
 void frmMain::startUp() {
+    showCalendar();
+    fillPanels();
+}
+
+void frmMain::showCalendar() {
     InstallNoteEditor();
     LoadPlanner();
     Tell(Shell.showInPickers, SelectedDate);
     Show1YearCalendar();
-    Reporting("ReadHelpTopics", ReadHelpTopics);
-    FillPendingBirthdayList();
-    FillPendingAlertList();
     lblDate->setText(FromText("Today is " + LongDate(Today())));
     menus_.enable(QStringLiteral("mnuOptDateClearMark"), false);
     menus_.enable(QStringLiteral("mnuOptDateAttachHoverText"), false);
+}
+
+void frmMain::fillPanels() {
+    fillRightPanel();
+    Reporting("ReadHelpTopics", ReadHelpTopics);
+    FillPendingBirthdayList();
+    FillPendingAlertList();
     ReadToDoList();
+}
+
+void frmMain::paintEvent(QPaintEvent* event) {
+    Window::paintEvent(event);
+    if (std::exchange(painted_, true)) return;
+    // Behind the event, when the picture of the window has reached the screen.
+    QTimer::singleShot(0, this, [this] { Q_EMIT firstPainted(); });
 }
 
 namespace {

@@ -21,8 +21,12 @@ class frmMain : public Window {
     frmMain();
     ~frmMain() override;
 
-    /// The start-up sequence, ending in the one-year view. Once, before the window is shown.
+    /// The start-up sequence, once: the calendar, then the panels beside it.
     void startUp();
+    /// Its first half: everything is read that the one-year view shows, and the view drawn.
+    void showCalendar();
+    /// Its second half: help, pending birthdays and alerts, the to-do list.
+    void fillPanels();
     /// Maximised where the screen is at least 1024 x 768, 800 x 600 logical pixels otherwise.
     void sizeToScreen();
 
@@ -47,12 +51,17 @@ class frmMain : public Window {
     QLabel* lblX;
     QLabel* lblY;
     QWidget* picRight;
-    QListWidget* lstAlerts;
-    QLabel* lblAlertDate;
-    QListWidget* lstBirthdays;
-    QLabel* lblBirthdayDate;
+    QListWidget* lstAlerts = nullptr;
+    QLabel* lblAlertDate = nullptr;
+    QListWidget* lstBirthdays = nullptr;
+    QLabel* lblBirthdayDate = nullptr;
+
+  Q_SIGNALS:
+    /// The window has been painted for the first time.
+    void firstPainted();
 
   protected:
+    void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     bool eventFilter(QObject* watched, QEvent* event) override;
     void unload() override;
@@ -63,6 +72,7 @@ class frmMain : public Window {
     QComboBox* picker(const QString& name, const QString& spoken, int characters);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
+    void fillRightPanel();
     void buildBottomPanels();
     void layOutParts();
     void fillShellCalls();
@@ -79,6 +89,7 @@ class frmMain : public Window {
     void arrangePanels();
 
     Menus menus_;
+    bool painted_ = false;
     QWidget* middle_;                  // where the calendar windows stand
     QPointer<MonthsWindow> calendar_;  // the one that is open
 };

@@ -42,10 +42,13 @@ int main(int argc, char** argv) {
     fonts.reset();  // the window asks for fonts: two scans beside each other would both be done to the end
     auto* window = new frmMain;
     window->sizeToScreen();
-    window->startUp();
+    // The calendar comes first; what stands beside it, and what nobody sees, follows when it is on the screen.
+    QObject::connect(window, &frmMain::firstPainted, window, [window] {
+        window->fillPanels();
+        QApplication::setWindowIcon(ProgramIcon());
+        QTimer::singleShot(1000, window, CheckPrinter);
+    });
+    window->showCalendar();
     window->show();
-    // What nobody sees or needs in the first moment waits until the calendar is on the screen.
-    QTimer::singleShot(0, window, [] { QApplication::setWindowIcon(ProgramIcon()); });
-    QTimer::singleShot(1000, window, CheckPrinter);
     return QApplication::exec();
 }

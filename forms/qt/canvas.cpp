@@ -66,10 +66,13 @@ struct FontFacts {
 /// them faster by looking at each than by hashing their names.
 FontFacts& FactsOf(const Font& font) {
     static std::vector<std::pair<Font, std::unique_ptr<FontFacts>>> known;
-    for (const auto& [like, facts] : known)
-        if (like == font) return *facts;
+    static std::size_t last = 0;  // most calls ask for the font of the call before
+    if (last < known.size() && known[last].first == font) return *known[last].second;
     constexpr std::size_t MostFonts = 64;  // a window dragged larger asks for many sizes, each for a moment
+    for (last = 0; last < known.size(); ++last)
+        if (known[last].first == font) return *known[last].second;
     if (known.size() == MostFonts) known.clear();
+    last = known.size();
     known.emplace_back(font, std::make_unique<FontFacts>(FontFacts{QFontMetricsF(FromFont(font)), {}}));
     return *known.back().second;
 }
@@ -104,13 +107,16 @@ QRgb Share(QRgb color, unsigned share) {
 /// Lays premultiplied pixels over opaque ones. A word is a few dozen pixels: a painter takes longer to make than this.
 void LayOver(QImage& paper, QPoint corner, const QImage& word) {
     const QRect part = QRect(corner, word.size()) & paper.rect();
-    for (int y = part.top(); y <= part.bottom(); ++y) {
-        auto* out = reinterpret_cast<QRgb*>(paper.scanLine(y));
-        const auto* in = reinterpret_cast<const QRgb*>(word.constScanLine(y - corner.y()));
+    if (part.isEmpty()) return;
+    const qsizetype stride = paper.bytesPerLine() / 4;
+    auto* out = reinterpret_cast<QRgb*>(paper.bits()) + part.top() * stride;
+    for (int y = part.top(); y <= part.bottom(); ++y, out += stride) {
+        const auto* in = reinterpret_cast<const QRgb*>(word.constScanLine(y - corner.y())) - corner.x();
         for (int x = part.left(); x <= part.right(); ++x) {
-            const QRgb ink = in[x - corner.x()];
-            if (qAlpha(ink) != 0)
-                out[x] = 0xFF000000 | ((ink & 0xFFFFFF) + Share(out[x], 255u - static_cast<unsigned>(qAlpha(ink))));
+            const QRgb ink = in[x];
+            if (ink == 0) continue;
+            const auto rest = 255u - static_cast<unsigned>(qAlpha(ink));
+            out[x] = rest == 0 ? ink : 0xFF000000 | ((ink & 0xFFFFFF) + Share(out[x], rest));
         }
     }
 }
@@ -164,11 +170,11 @@ void PictureCanvas::changed(const QRect& device) { changed_ |= device; }
 
 void PictureCanvas::fillDevice(const QRect& device, Color color) {
     const QRect rect = device & image_.rect();
-    const QRgb pixel = FromColor(color).rgb();
-    for (int y = rect.top(); y <= rect.bottom(); ++y) {
-        auto* row = reinterpret_cast<QRgb*>(image_.scanLine(y));
-        std::fill(row + rect.left(), row + rect.right() + 1, pixel);
-    }
+    if (rect.isEmpty()) return;
+    const QRgb pixel = qRgb(color & 0xFF, (color >> 8) & 0xFF, (color >> 16) & 0xFF);
+    const qsizetype stride = image_.bytesPerLine() / 4;
+    auto* row = reinterpret_cast<QRgb*>(image_.bits()) + rect.top() * stride + rect.left();
+    for (int y = rect.top(); y <= rect.bottom(); ++y, row += stride) std::fill_n(row, rect.width(), pixel);
     changed(rect);
 }
 
