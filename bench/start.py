@@ -6,7 +6,7 @@
 BUILD is a release build with the benches, DATA a data folder (it is copied). Both programs are started in turn under
 Xvfb with a window manager and a session bus; printed are the medians of the pairs' ratios.
 
-FILLED_IN
+2026-11-22, Debian 12, two cores: 1.20 of the floor (57 against 48 ms); processor time 1.44, peak memory 1.20.
 """
 import ctypes
 import os

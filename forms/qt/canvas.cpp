@@ -77,6 +77,17 @@ FontFacts& FactsOf(const Font& font) {
     return *known.back().second;
 }
 
+/// The part of a transparent picture that something is drawn on.
+QRect InkOf(const QImage& image) {
+    QRect ink;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        for (int x = 0; x < image.width(); ++x)
+            if (row[x] != 0) ink |= QRect(x, y, 1, 1);
+    }
+    return ink;
+}
+
 Word DrawnWord(const WordKey& key) {
     const QFont font = FromFont(key.font);
     const QFontMetricsF metrics(font);
@@ -94,6 +105,10 @@ Word DrawnWord(const WordKey& key) {
     painter.drawText(QPointF(-ink.left(), -ink.top() + metrics.ascent()), shown);
     painter.end();
     word.image.setDevicePixelRatio(1);
+    // Half of a line's height is empty: only the ink is kept, to be copied sooner.
+    const QRect drawn = InkOf(word.image);
+    word.image = word.image.copy(drawn);
+    word.offset += drawn.topLeft();
     return word;
 }
 
