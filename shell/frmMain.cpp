@@ -310,10 +310,12 @@ void frmMain::fillReminderHooks() {
 std::vector<Canvas*> frmMain::openView(int view) {
     MonthsWindow* window = nullptr;
     const auto loaded = [&](bool wanted, auto* open, auto make) {
-        if (wanted)
+        if (wanted) {
             window = open != nullptr ? open : make();
-        else if (open != nullptr)
+        } else if (open != nullptr) {
+            middle_->setFocus();  // from a view that goes, the focus would wander into the lists beside it
             open->close();
+        }
     };
     loaded(view == 1, OpenedWindow<frmMonth>(), [] { return new frmMonth; });
     loaded(view == 6, OpenedWindow<frm6Months>(), [] { return new frm6Months; });

@@ -25,9 +25,10 @@ void MakeLink(bool onDesktop, const std::string& caption, const std::string& pro
 }
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int /*argc*/, char** argv) {
     std::optional<FontScan> fonts(std::in_place);
-    QApplication application(argc, argv);
+    int programNameOnly = 1;  // the program takes no options, the toolkit's own included
+    QApplication application(programNameOnly, argv);
     QApplication::setApplicationName(QStringLiteral("Tasmoro"));
     QApplication::setQuitOnLastWindowClosed(false);
     InstallBoxes();

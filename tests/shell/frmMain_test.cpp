@@ -132,6 +132,7 @@ TEST_F(MainWindowTest, MenusShowTheUsersCaptionsUnderTheCategorysIndex) {
 TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
     QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
     EXPECT_EQ(CalendarView, 1);
+    EXPECT_EQ(window_->lstAlerts->currentRow(), -1) << "the list beside the calendar took the focus";
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(OpenedWindow<frmYear>(), nullptr);
     ASSERT_NE(OpenedWindow<frmMonth>(), nullptr);
