@@ -94,7 +94,7 @@ void frmMonth::layOut() {
 void frmMonth::layOutLeftPanel() {
     const int bar = VScroll1->sizeHint().width();
     VScroll1->setGeometry(picLeft->width() - bar, 0, bar, picLeft->height());
-    const auto scaled = [this](int twips) { return static_cast<int>(twips / 15 * zoom()); };
+    const auto scaled = [this](int twips) { return static_cast<int>(twips / 15.0 * zoom()); };
     picTTT->resize(picLeft->width() - bar, scaled(SheetHeight));
     for (int i = 0; i < 36; ++i)
         lblTTT[static_cast<std::size_t>(i)]->setGeometry(4, scaled(LabelPitch * i), picTTT->width() - 8,
@@ -103,7 +103,7 @@ void frmMonth::layOutLeftPanel() {
     VScroll1_Change(0);
 }
 
-void frmMonth::VScroll1_Change(int value) { picTTT->move(0, -static_cast<int>(value / 15 * zoom())); }
+void frmMonth::VScroll1_Change(int value) { picTTT->move(0, -static_cast<int>(value / 15.0 * zoom())); }
 
 void frmMonth::goNext() { ShowNeighbourMonth(1); }
 void frmMonth::goPrevious() { ShowNeighbourMonth(-1); }

@@ -74,8 +74,8 @@ void MonthsWindow::captionMonth(int index, const QString& caption) {
 }
 
 void MonthsWindow::centreView() {
-    const int zoomedWidth = static_cast<int>(ViewWidth / 15 * zoom());
-    const int zoomedHeight = static_cast<int>(ViewHeight / 15 * zoom());
+    const int zoomedWidth = static_cast<int>(ViewWidth / 15.0 * zoom());
+    const int zoomedHeight = static_cast<int>(ViewHeight / 15.0 * zoom());
     picMain->setGeometry((width() - zoomedWidth) / 2, (height() - zoomedHeight) / 2, zoomedWidth, zoomedHeight);
 }
 

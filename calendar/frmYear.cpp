@@ -12,8 +12,8 @@ frmYear::frmYear() : MonthsWindow("frmYear", QStringLiteral("12 Month View"), 12
 void frmYear::layOut() {
     centreView();
     for (int i = 0; i < 12; ++i) {
-        const double left = 150 + 2925 * (i % GridsInRow);
-        const double top = 450 + 2340 * (i / GridsInRow);
+        const int left = 150 + 2925 * (i % GridsInRow);
+        const int top = 450 + 2340 * (i / GridsInRow);
         place(picture(i), left, top, 2700, 1920);
         place(monthButton(i), left + 210, top - 330, 2355, 300);
     }

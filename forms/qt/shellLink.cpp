@@ -13,7 +13,7 @@
 
 namespace {
 QString FolderOf(LinkFolder folder) {
-    const QString path = QStandardPaths::writableLocation(
+    QString path = QStandardPaths::writableLocation(
         folder == LinkFolder::Desktop ? QStandardPaths::DesktopLocation : QStandardPaths::ApplicationsLocation);
     if (path.isEmpty() || !QDir().mkpath(path)) throw Error(PathNotFound);
     return path;
@@ -36,7 +36,7 @@ QString Quoted(QString path) {
 
 /// The program's icon as a file beside it, for the links to show.
 QString IconFile(const QString& target) {
-    const QString path = QFileInfo(target).path() + QStringLiteral("/Tasmoro.png");
+    QString path = QFileInfo(target).path() + QStringLiteral("/Tasmoro.png");
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
