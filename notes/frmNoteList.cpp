@@ -98,6 +98,7 @@ void frmNoteList::cmdDeleteAll_Click() {
             "Deleting All File in the List") == Answer::No)
         return;
     std::vector<std::string> keys;
+    keys.reserve(static_cast<std::size_t>(lst->count()));
     for (int row = 0; row < lst->count(); ++row) keys.push_back(EntryAt(lst, row));
     deleteNotes(keys);
 }

@@ -112,13 +112,13 @@ void frmAlert::connectControls() {
 
 void frmAlert::buildMenus() {
     const auto item = [](const char* name, const char* caption, const char* parent, std::function<void()> command,
-                         QKeySequence shortcut = {}, bool checkable = false) {
+                         const QKeySequence& shortcut = {}, bool checkable = false) {
         return MenuItem{QString::fromLatin1(name),
                         QString::fromLatin1(caption),
                         QString::fromLatin1(parent),
                         std::move(command),
                         checkable,
-                        std::move(shortcut)};
+                        shortcut};
     };
     menus.build(new QMenuBar(this),
                 {item("mnuFile", "&File", "", {}),

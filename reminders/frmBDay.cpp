@@ -111,13 +111,13 @@ void frmBDay::makeLists() {
 
 void frmBDay::buildMenus() {
     const auto item = [](const char* name, const char* caption, const char* parent, std::function<void()> command,
-                         QKeySequence shortcut = {}) {
+                         const QKeySequence& shortcut = {}) {
         return MenuItem{QString::fromLatin1(name),
                         QString::fromLatin1(caption),
                         QString::fromLatin1(parent),
                         std::move(command),
                         false,
-                        std::move(shortcut)};
+                        shortcut};
     };
     menus.build(
         new QMenuBar(this),
