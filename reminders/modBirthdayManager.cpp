@@ -120,7 +120,7 @@ std::string CutSuffix(std::string_view& name) {
 std::string BirthdayNameKey(std::string_view name) {
     name = Trimmed(name);
     std::string suffix;
-    for (std::string cut = CutSuffix(name); !cut.empty(); cut = CutSuffix(name)) suffix = cut + suffix;
+    for (std::string cut = CutSuffix(name); !cut.empty(); cut = CutSuffix(name)) suffix.insert(0, cut);
     const auto blank = name.rfind(' ');
     if (blank == std::string_view::npos) return std::string(name) + suffix;
     return std::string(name.substr(blank + 1)).append(", ").append(Trimmed(name.substr(0, blank))) + suffix;

@@ -21,7 +21,10 @@ MonthAndDay ReadMonthAndDay(std::string_view text);
 template <class Value>
 class DayTable {
   public:
-    Value& operator[](MonthAndDay at) { return values_[static_cast<std::size_t>(at.month * 32 + at.day)]; }
+    Value& operator[](MonthAndDay at) {
+        const int index = at.month * 32 + at.day;
+        return values_[static_cast<std::size_t>(index)];
+    }
 
   private:
     std::array<Value, 13 * 32> values_{};
