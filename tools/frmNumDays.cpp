@@ -52,7 +52,10 @@ frmNumDays::frmNumDays() : Window("frmNumDays", QStringLiteral("Number of Specif
     cmdGetDays = Named(new QPushButton(QStringLiteral("Show Occurrences")), QStringLiteral("cmdGetDays"),
                        QStringLiteral("Show Occurrences"));
     cmdGetDays->setAutoDefault(true);  // pressed by Enter as well
-    lstDays = Named(new QListWidget, QStringLiteral("lstDays"), QStringLiteral("Dates found"));
+    lstDays = Named(new QListView, QStringLiteral("lstDays"), QStringLiteral("Dates found"));
+    listed = new QStringListModel(this);
+    lstDays->setModel(listed);
+    lstDays->setEditTriggers(QAbstractItemView::NoEditTriggers);
     lstDays->setUniformItemSizes(true);
     lblOccur = Named(new QLabel, QStringLiteral("lblOccur"), QStringLiteral("Result"));
     layOut();
@@ -136,7 +139,7 @@ void frmNumDays::CheckWhichDay() {
 }
 
 void frmNumDays::clearResult() {
-    lstDays->clear();
+    listed->setStringList({});
     lblOccur->clear();
 }
 
@@ -160,7 +163,7 @@ void frmNumDays::showOccurrences(const Occurrences& found) {
         QStringList entries;
         entries.reserve(found.count);
         ListOccurrences(found, [&entries](std::string_view entry) { entries << FromText(entry); });
-        lstDays->addItems(entries);
+        listed->setStringList(entries);
     }
     if (found.tooMany) ShowMessage("Too many occurrences: narrow the Date Difference");
     lblOccur->setText(FromText(OccurrencesText(found)));

@@ -4,9 +4,10 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
+#include <QListView>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QStringListModel>
 #include <QTimer>
 #include <array>
 
@@ -26,7 +27,8 @@ class frmNumDays : public Window {
     QGroupBox* framDays;
     std::array<QRadioButton*, 7> optDay{};  // the property "tag" holds the weekday's name
     QPushButton* cmdGetDays;
-    QListWidget* lstDays;
+    QListView* lstDays;  // over texts: 31,999 rows need no item objects
+    QStringListModel* listed;
     QLabel* lblOccur;
 
   protected:

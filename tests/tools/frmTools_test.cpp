@@ -81,14 +81,14 @@ TEST_F(ToolWindows, WeekdaysAreCountedAndTheDatesKept) {
     window->optDay[4]->click();
     QTest::keyClick(window->cmdGetDays, Qt::Key_Return);
     EXPECT_EQ(window->lblOccur->text(), QStringLiteral("Thursday found 5 times"));
-    ASSERT_EQ(window->lstDays->count(), 5);
-    EXPECT_EQ(window->lstDays->item(4)->text(), QStringLiteral("Thursday 1/29/2009"));
+    ASSERT_EQ(window->listed->rowCount(), 5);
+    EXPECT_EQ(window->listed->stringList().at(4), QStringLiteral("Thursday 1/29/2009"));
     window->optDay[0]->click();
-    EXPECT_EQ(window->lstDays->count(), 0);
+    EXPECT_EQ(window->listed->rowCount(), 0);
     window->txtEnd->setText(QStringLiteral("1/1/2700"));
     dialogs.expect("Too many occurrences: narrow the Date Difference");
     window->cmdGetDays->click();
-    EXPECT_EQ(window->lstDays->count(), 31999);
+    EXPECT_EQ(window->listed->rowCount(), 31999);
     window->close();
     EXPECT_EQ(ShowWindow<frmNumDays>()->txtEnd->text(), QStringLiteral("1/1/2700"));
 }
@@ -108,7 +108,7 @@ TEST_F(ToolWindows, LeavingABoxThatHoldsNoDateIsToldOnce) {
     dialogs.expect("Invalid Date in End Date Box!");
     window->cmdGetDays->click();
     QApplication::processEvents();
-    EXPECT_EQ(window->lstDays->count(), 0);
+    EXPECT_EQ(window->listed->rowCount(), 0);
 }
 
 TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
