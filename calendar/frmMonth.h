@@ -15,8 +15,6 @@ class frmMonth : public MonthsWindow {
 
     /// In template mode the navigation and the left panel are hidden.
     void setTemplateMode(bool templateMode);
-    /// True where the window is wide enough for the day labels.
-    bool leftPanelVisible() const { return leftPanelVisible_; }
     MonthPicture* picMonth() const { return picture(0); }
 
   protected:

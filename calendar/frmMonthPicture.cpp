@@ -43,7 +43,7 @@ void MonthPicture::mousePressEvent(QMouseEvent* event) {
 void MonthPicture::mouseMoveEvent(QMouseEvent* event) {
     const ShownMonth* month = shown();
     const QPoint point = event->position().toPoint();
-    if (month != nullptr && hoverEnabled_ && point != lastPoint_) {
+    if (month != nullptr && point != lastPoint_) {
         lastPoint_ = point;
         const QPointF place = toScale(event->position());
         ShowHover(HoverAt(*month, place.x(), place.y()));
@@ -71,7 +71,7 @@ bool MonthPicture::event(QEvent* event) {
 
 void MonthPicture::showToolTip(QHelpEvent* event) {
     const ShownMonth* month = shown();
-    if (month == nullptr || !hoverEnabled_) return;
+    if (month == nullptr) return;
     const QPointF point = toScale(event->pos());
     const Hover hover = HoverAt(*month, point.x(), point.y());
     if (hover.text.empty()) {

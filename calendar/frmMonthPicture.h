@@ -13,8 +13,6 @@ class MonthPicture : public PictureBox {
 
     /// Frames the selected cell if it lies in this month.
     void showSelection();
-    /// Turned off while an icon is dragged.
-    void setHoverEnabled(bool enabled) { hoverEnabled_ = enabled; }
 
   Q_SIGNALS:
     /// A day was selected, by pointer or key.
@@ -33,6 +31,5 @@ class MonthPicture : public PictureBox {
     void showToolTip(class QHelpEvent* event);
 
     int index_;
-    bool hoverEnabled_ = true;
     QPoint lastPoint_{-1, -1};
 };

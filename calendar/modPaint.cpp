@@ -100,14 +100,6 @@ void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color) {
     PaintedColor(shown, cell) = color;
 }
 
-ShownMonth* FindShownMonth(Year slot, int month) {
-    for (ShownMonth& shown : ShownMonths)
-        if (shown.slot == slot && shown.month == month) return &shown;
-    return nullptr;
-}
-
-Canvas* MonthCanvas() { return CalendarView == 1 && !ShownMonths.empty() ? ShownMonths.front().canvas : nullptr; }
-
 void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font) {
     for (int column = 0; column < ColumnsInGrid; ++column) {
         const std::string name = WeekdayNames.at(static_cast<std::size_t>(column));

@@ -59,12 +59,6 @@ void PaintDay(Year slot, Cell cell, int day, Color fill);
 /// view and its template.
 void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color = Black);
 
-/// The shown month of a slot's month index; null if it is not on display.
-ShownMonth* FindShownMonth(Year slot, int month);
-
-/// The canvas of the one-month view; null while another view is shown.
-Canvas* MonthCanvas();
-
 /// Prints the weekdays' first `letters` letters at height `y`.
 void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font);
 /// Draws the lines between the columns from `top` down, and those above each week row.
