@@ -1,6 +1,7 @@
 // The system's file calls, every result checked.
 #include "base/diskio.h"
 
+#include <array>
 #include <chrono>
 #include <optional>
 #include <random>
@@ -245,12 +246,16 @@ void CheckFolder(const fs::path& folder) {
     if (!fs::is_directory(folder, failure)) throw Error(PathNotFound);
 }
 
-std::string ReadFromDisk(const fs::path& path) {
+OpenFile OpenToRead(const fs::path& path) {
     std::error_code failure;
     const fs::file_type type = fs::status(path, failure).type();
     if (type == fs::file_type::directory) throw Error(PathFileAccess);
     if (type == fs::file_type::not_found) CheckFolder(FolderOf(path));
-    OpenFile file = OpenForReading(path);
+    return OpenForReading(path);
+}
+
+std::string ReadFromDisk(const fs::path& path) {
+    OpenFile file = OpenToRead(path);
     // One byte more than the size is asked for, so that the usual file is at its end after two reads; one that grows
     // meanwhile is read on.
     std::string bytes(static_cast<std::size_t>(file.size()) + 1, '\0');
@@ -261,6 +266,17 @@ std::string ReadFromDisk(const fs::path& path) {
     }
     bytes.resize(filled);
     return bytes;
+}
+
+bool DiskHolds(const fs::path& path, std::string_view bytes) {
+    OpenFile file = OpenToRead(path);
+    if (file.size() != bytes.size()) return false;
+    std::array<char, 1 << 16> piece;
+    while (const std::size_t got = file.readSome(piece.data(), piece.size())) {
+        if (!bytes.starts_with({piece.data(), got})) return false;
+        bytes.remove_prefix(got);
+    }
+    return bytes.empty();
 }
 
 void WriteAll(OpenFile& file, std::string_view bytes) {
@@ -376,13 +392,6 @@ void RemoveFromDisk(const fs::path& path) {
     if (Remove(path)) folder.sync();
 }
 
-void RenameOnDisk(const fs::path& from, const fs::path& to) {
-    CheckFolder(FolderOf(to));
-    OpenFolder folder(FolderOf(to));
-    PutInPlace(from, to);
-    folder.sync();
-}
-
 void MakeFolderOnDisk(const fs::path& path) {
     std::error_code failure;
     if (fs::is_directory(path, failure)) return;
@@ -393,7 +402,7 @@ void MakeFolderOnDisk(const fs::path& path) {
 }
 
 DiskCalls SystemDisk() {
-    return {ReadFromDisk, WriteToDisk, RemoveFromDisk, RenameOnDisk, AppendOnDisk, MakeFolderOnDisk};
+    return {ReadFromDisk, WriteToDisk, RemoveFromDisk, AppendOnDisk, MakeFolderOnDisk, DiskHolds};
 }
 
 DiskCalls& CurrentDisk() {
@@ -413,7 +422,7 @@ void SetDisk(DiskCalls calls) {
     put(current.read, calls.read);
     put(current.write, calls.write);
     put(current.remove, calls.remove);
-    put(current.rename, calls.rename);
     put(current.append, calls.append);
     put(current.makeFolder, calls.makeFolder);
+    put(current.holds, calls.holds);
 }

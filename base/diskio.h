@@ -11,9 +11,10 @@ struct DiskCalls {
     std::function<std::string(const std::filesystem::path&)> read = {};
     std::function<void(const std::filesystem::path&, std::string_view)> write = {};
     std::function<void(const std::filesystem::path&)> remove = {};
-    std::function<void(const std::filesystem::path&, const std::filesystem::path&)> rename = {};
     std::function<void(const std::filesystem::path&, std::string_view)> append = {};
     std::function<void(const std::filesystem::path&)> makeFolder = {};
+    /// Whether the file holds exactly these bytes. It is compared piece by piece, as it is in nearly every save.
+    std::function<bool(const std::filesystem::path&, std::string_view)> holds = {};
 };
 
 /// The calls in place.

@@ -38,7 +38,6 @@ std::vector<std::string_view> LinesOf(std::string_view bytes) {
 void WriteWholeFile(const Path& path, std::string_view bytes) { Disk().write(path, bytes); }
 void AppendToFile(const Path& path, std::string_view bytes) { Disk().append(path, bytes); }
 void DeleteFile(const Path& path) { Disk().remove(path); }
-void RenameFile(const Path& from, const Path& to) { Disk().rename(from, to); }
 void MakeFolder(const Path& folder) { Disk().makeFolder(folder); }
 
 // -- The data folder ----------------------------------------------------------------------------------------------
@@ -119,10 +118,11 @@ std::string CopiedIfUnknown(const Path& path, std::string_view replacement = {})
     std::error_code failure;
     if (fs::status(path, failure).type() == fs::file_type::not_found) return {};
     try {
-        const std::string bytes = ReadWholeFile(path);
-        if (bytes.empty() || bytes == replacement) return {};
         const auto known = KnownFiles.find(KeyOf(path));
-        if (known != KnownFiles.end() && known->second == bytes) return {};
+        if (known != KnownFiles.end() && Disk().holds(path, known->second)) return {};
+        if (Disk().holds(path, replacement)) return {};
+        const std::string bytes = ReadWholeFile(path);
+        if (bytes.empty()) return {};
         std::string told = CopyBytesToBackup(path, bytes);
         MarkFullyRead(path, bytes);
         return told;
@@ -145,10 +145,10 @@ std::string Guarded(const Path& path, std::string_view replacement, Change&& cha
 }
 }  // namespace
 
-std::string SaveDataFile(const Path& path, std::string_view bytes) {
+std::string SaveDataFile(const Path& path, std::string bytes) {
     return Guarded(path, bytes, [&] {
         WriteWholeFile(path, bytes);
-        MarkFullyRead(path, bytes);
+        KnownFiles[KeyOf(path)] = std::move(bytes);
     });
 }
 
@@ -156,15 +156,6 @@ std::string DeleteDataFile(const Path& path) {
     return Guarded(path, {}, [&] {
         DeleteFile(path);
         MarkNotFullyRead(path);
-    });
-}
-
-std::string RenameDataFile(const Path& from, const Path& to) {
-    return Guarded(to, {}, [&] {
-        RenameFile(from, to);
-        auto known = KnownFiles.extract(KeyOf(from));
-        MarkNotFullyRead(to);
-        if (known) KnownFiles[KeyOf(to)] = std::move(known.mapped());
     });
 }
 

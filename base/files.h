@@ -34,9 +34,6 @@ void AppendToFile(const Path& path, std::string_view bytes);
 /// Deletes the file and syncs the folder. No file is no failure. Throws Error 70 or 75.
 void DeleteFile(const Path& path);
 
-/// Gives the file another name in the same folder, replacing what has that name. Throws Error 53, 70, 75 or 76.
-void RenameFile(const Path& from, const Path& to);
-
 /// Makes the folder, and those above it, if it is not there; synced, so that it outlives a crash as surely as the files
 /// saved in it. Throws Error 61, 70, 75 or 76.
 void MakeFolder(const Path& folder);
@@ -72,13 +69,10 @@ void MarkFullyRead(const Path& path, std::string_view bytes);
 /// what is to be written, its exact bytes are first copied to "Backup". Returns "" or the sentence that tells of the
 /// copy, to be added to the save's message. Throws what WriteWholeFile throws, with that sentence added to the
 /// description if a copy was made; or Error 75 if the copy fails, and then nothing is written.
-std::string SaveDataFile(const Path& path, std::string_view bytes);
+std::string SaveDataFile(const Path& path, std::string bytes);
 
 /// Deletes a data file under the same guard.
 std::string DeleteDataFile(const Path& path);
-
-/// Renames a data file under the same guard for the file whose place it takes (`to`).
-std::string RenameDataFile(const Path& from, const Path& to);
 
 /// Copies the file to "Backup" under its name with date and time added, never over an earlier copy. Returns the
 /// sentence that tells of it; "" if there is no file. Throws Error 75 if the copy fails.

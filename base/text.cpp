@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <charconv>
+#include <numeric>
+#include <utility>
 
 #include "base/errors.h"
 
@@ -247,35 +249,65 @@ bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix) {
            std::equal(prefix.begin(), prefix.end(), text.begin(), [](char a, char b) { return Upper(a) == Upper(b); });
 }
 
+PhraseFinder::PhraseFinder(std::string codes, std::string otherCodes)
+    : codes_(std::move(codes)), otherCodes_(std::move(otherCodes)) {
+    constexpr std::string_view Common = " etaoinsrhldcumfpgwybvk";  // the most frequent first; all others are rarer
+    std::vector<std::size_t> places(codes_.size());
+    std::iota(places.begin(), places.end(), 0);
+    std::stable_sort(places.begin(), places.end(),
+                     [&](auto a, auto b) { return Common.find(codes_[a]) > Common.find(codes_[b]); });
+    for (std::size_t i = 0; i < rarest_.size() && !places.empty(); ++i)
+        rarest_[i] = places[std::min(i, places.size() - 1)];
+}
+
+bool PhraseFinder::isAt(const char* place) const {
+    for (std::size_t i = 0; i < codes_.size(); ++i)
+        if (place[i] != codes_[i] && place[i] != otherCodes_[i]) return false;
+    return true;
+}
+
 namespace {
-/// The index of the phrase's letter that texts have least often, in capitals.
-std::size_t RarestLetter(std::string_view folded) {
-    constexpr std::string_view Common = " ETAOINSRHLDCUMFPGWYBVK";  // the most frequent first; all others are rarer
-    const auto rarer = [Common](char a, char b) { return Common.find(a) < Common.find(b); };
-    return static_cast<std::size_t>(std::max_element(folded.begin(), folded.end(), rarer) - folded.begin());
+/// Neighbouring places of a text. Loops over them are turned into wide instructions, if nothing else can be meant: they
+/// work on copies.
+using Block = std::array<char, 128>;
+
+/// Clears the marks where the letter is neither of the two.
+void KeepMet(Block& marks, const char* letters, char code, char otherCode) {
+    Block block;
+    std::copy_n(letters, block.size(), block.begin());
+    for (std::size_t i = 0; i < block.size(); ++i)
+        marks[i] &= static_cast<char>((block[i] == code) | (block[i] == otherCode));
+}
+
+bool AnyOf(const Block& marks) {
+    char any = 0;
+    for (const char mark : marks) any |= mark;
+    return any != 0;
 }
 }  // namespace
 
-std::size_t FindIgnoringCase(std::string_view text, std::string_view phrase, std::size_t from) {
-    if (from > text.size() || phrase.size() > text.size() - from) return std::string_view::npos;
-    if (phrase.empty()) return from;
-    const std::string folded = UpperCase(phrase);
-    const std::size_t rarest = RarestLetter(folded);
-    const char capital = folded[rarest];
-    const char small = LowerCase(capital);
-    const std::size_t last = text.size() - phrase.size() + rarest;
-    // Two fast searches for that letter leapfrog each other; the whole phrase is compared at their hits only.
-    std::size_t atCapital = text.find(capital, from + rarest);
-    std::size_t atSmall = capital == small ? std::string_view::npos : text.find(small, from + rarest);
-    for (;;) {
-        const std::size_t at = std::min(atCapital, atSmall);
-        if (at > last) return std::string_view::npos;
-        if (EqualIgnoringCase(text.substr(at - rarest, phrase.size()), folded)) return at - rarest;
-        if (at == atCapital)
-            atCapital = text.find(capital, at + 1);
-        else
-            atSmall = text.find(small, at + 1);
+// The rarest letters of the phrase are compared for a block of places at once, the whole phrase only where all of them
+// are met.
+std::size_t PhraseFinder::find(std::string_view text, std::size_t from) const {
+    if (from > text.size() || codes_.size() > text.size() - from) return std::string_view::npos;
+    if (codes_.empty()) return from;
+    const std::size_t end = text.size() - codes_.size() + 1;
+    Block marks;
+    for (; end - from >= marks.size(); from += marks.size()) {
+        marks.fill(1);
+        for (const std::size_t place : rarest_)
+            KeepMet(marks, text.data() + from + place, codes_[place], otherCodes_[place]);
+        if (!AnyOf(marks)) continue;
+        for (std::size_t i = 0; i < marks.size(); ++i)
+            if (marks[i] != 0 && isAt(text.data() + from + i)) return from + i;
     }
+    for (; from < end; ++from)
+        if (isAt(text.data() + from)) return from;
+    return std::string_view::npos;
+}
+
+std::size_t FindIgnoringCase(std::string_view text, std::string_view phrase, std::size_t from) {
+    return PhraseFinder(phrase).find(text, from);
 }
 
 int CompareInListOrder(std::string_view a, std::string_view b) {

@@ -39,8 +39,26 @@ bool IsLetter(char c);
 bool EqualIgnoringCase(std::string_view a, std::string_view b);
 bool StartsWithIgnoringCase(std::string_view text, std::string_view prefix);
 
-/// The position of the phrase in the text at or after `from`, ignoring case; npos if it is not there. The empty phrase
-/// is found at `from`.
+/// Looks for one phrase in many texts. Each character of the phrase is met by either of two codes: a letter by its
+/// capital and its small form, any other by itself.
+class PhraseFinder {
+  public:
+    explicit PhraseFinder(std::string_view phrase) : PhraseFinder(LowerCase(phrase), UpperCase(phrase)) {}
+    /// The two codes of each character; both texts are equally long.
+    PhraseFinder(std::string codes, std::string otherCodes);
+
+    /// The position of the phrase in the text at or after `from`; npos if it is not there. The empty phrase is found at
+    /// `from`.
+    std::size_t find(std::string_view text, std::size_t from = 0) const;
+
+  private:
+    bool isAt(const char* place) const;
+
+    std::string codes_, otherCodes_;
+    std::array<std::size_t, 3> rarest_{};  // the places in the phrase that are looked at first
+};
+
+/// `PhraseFinder::find` for one text.
 std::size_t FindIgnoringCase(std::string_view text, std::string_view phrase, std::size_t from = 0);
 
 /// The order of sorted lists: letters without regard to case or accent first, then by accent, then by code.

@@ -14,47 +14,16 @@ SearchState Search;
 
 namespace {
 const ClearedAtStart ClearSearch([] { Search = {}; });
-
-using FoldTable = std::array<char, 256>;
-
-/// Small letters for capital ones. The codes that stand for line breaks in a stored note become the break itself, so
-/// that no letter of a phrase equals them.
-const FoldTable& NoteFold() {
-    static const FoldTable table = [] {
-        FoldTable fold{};
-        for (std::size_t code = 0; code < fold.size(); ++code) fold[code] = LowerCase(static_cast<char>(code));
-        fold[0xD5] = '\r';
-        fold[0xD2] = '\n';
-        return fold;
-    }();
-    return table;
-}
 }  // namespace
 
 // -- The phrase -----------------------------------------------------------------------------------------------------
 
-PhraseFinder::PhraseFinder(std::string_view phrase) : folded_(LowerCase(phrase)) {
-    // The last place of each character before the phrase's end; a character that is not in it is stepped over whole.
-    for (std::size_t code = 0; code < step_.size(); ++code) {
-        step_[code] = folded_.size();
-        for (std::size_t i = 0; i + 1 < folded_.size(); ++i)
-            if (folded_[i] == NoteFold()[code]) step_[code] = folded_.size() - 1 - i;
-    }
-}
-
-bool PhraseFinder::isIn(std::string_view note) const {
-    const std::size_t length = folded_.size();
-    if (length == 0) return true;
-    const FoldTable& fold = NoteFold();
-    for (std::size_t end = length; end <= note.size();) {
-        const auto last = static_cast<unsigned char>(note[end - 1]);
-        if (fold[last] == folded_.back() &&
-            std::equal(folded_.begin(), folded_.end(), note.data() + end - length,
-                       [&](char wanted, char c) { return wanted == fold[static_cast<unsigned char>(c)]; }))
-            return true;
-        end += step_[last];
-    }
-    return false;
+PhraseFinder FinderInNotes(std::string_view phrase) {
+    const std::string small = LowerCase(phrase);
+    std::string capital = UpperCase(phrase);
+    for (std::size_t i = 0; i < capital.size(); ++i)
+        if (DecodedLineBreaks({&capital[i], 1}) != std::string(1, capital[i])) capital[i] = small[i];
+    return {small, EncodedLineBreaks(capital)};
 }
 
 // -- The notes of a year --------------------------------------------------------------------------------------------
@@ -77,10 +46,10 @@ std::vector<std::string> NoteDatesInMonth(Year slot, int month) {
 
 std::vector<std::string> NoteDatesWithPhrase(Year slot, int month, std::string_view phrase) {
     const NotesOfYear& notes = Notes.years[slot];
-    const PhraseFinder finder(phrase);
+    const PhraseFinder finder = FinderInNotes(phrase);
     std::vector<std::string> found;
     for (std::size_t i = 0; i < notes.texts.size(); ++i)
-        if (finder.isIn(notes.texts[i])) found.push_back(notes.dates[i]);
+        if (finder.find(notes.texts[i]) != std::string::npos) found.push_back(notes.dates[i]);
     std::sort(found.begin(), found.end());
     std::vector<std::string> dates = NoteDatesInMonth(slot, month);
     std::erase_if(dates, [&](const std::string& key) { return !std::binary_search(found.begin(), found.end(), key); });

@@ -1,27 +1,18 @@
 // Searching the notes of a year for a phrase, and the phrases searched so far.
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "base/text.h"
 #include "calendar/modGrid.h"
 
-/// Looks for one phrase in many notes as they stand in the tables, in one line each. Letters match in either case; a
-/// line break matches nothing, also not the letters whose codes stand for it.
-class PhraseFinder {
-  public:
-    explicit PhraseFinder(std::string_view phrase);
-    /// True if the note holds the phrase; always true for the empty phrase.
-    bool isIn(std::string_view encodedNote) const;
-
-  private:
-    std::string folded_;
-    std::array<std::size_t, 256> step_{};  // by the character under the phrase's end: how far the phrase may move on
-};
+/// Looks for a phrase in notes as they stand in the tables, in one line each: the codes that stand for line breaks
+/// there are met by no letter.
+PhraseFinder FinderInNotes(std::string_view phrase);
 
 /// What the search window remembers for the whole run.
 struct SearchState {

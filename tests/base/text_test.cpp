@@ -94,6 +94,11 @@ TEST(Text, IsFoundIgnoringCase) {
                 {"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15},
                 {"a calendar viewer", "Calendar View", 2, 2}};
     for (const auto& [text, phrase, from, at] : rows) EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
+    for (std::size_t at = 0; at < 300; ++at) {
+        const std::string text = std::string(at, 'e') + "Tea" + std::string(299 - at, 'T');
+        EXPECT_EQ(FindIgnoringCase(text, "TEA"), at);
+        EXPECT_EQ(FindIgnoringCase(text, "TEA", at + 1), std::string::npos);
+    }
     EXPECT_TRUE(EqualIgnoringCase("M\xDCLLER", "m\xFCller"));
     EXPECT_FALSE(EqualIgnoringCase("a", "ab"));
 }

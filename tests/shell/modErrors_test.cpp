@@ -53,7 +53,7 @@ TEST_F(ErrorReports, EndWhereTheLogIsFull) {
 TEST_F(ErrorReports, AppendWithoutReadingOrReplacingTheLog) {
     folder.put("error.LOG", "old ");
     const auto forbidden = [](auto&&...) -> std::string { throw std::logic_error("called"); };
-    SetDisk({forbidden, forbidden, forbidden, forbidden});
+    SetDisk({.read = forbidden, .write = forbidden, .remove = forbidden});
     WriteErrorLog("new");
     SetDisk({});
     EXPECT_EQ(folder.get("error.LOG"), "old new");
