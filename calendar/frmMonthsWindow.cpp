@@ -98,13 +98,17 @@ void MonthsWindow::place(QWidget* control, double left, double top, double width
     control->setGeometry(scaled(left), scaled(top), scaled(width), scaled(height));
 }
 
-void MonthsWindow::resizeEvent(QResizeEvent*) {
-    if (isMinimized()) return;
+void MonthsWindow::fit() {
     // The view grows with its window, in whole and even proportions; it never shrinks below its own size.
     const double fits = std::min(width() / (ViewWidth / 15.0), height() / (ViewHeight / 15.0));
     zoom_ = std::clamp(std::floor(fits * 20) / 20, 1.0, 3.0);
-    for (auto* month : pictures_) month->setZoom(zoom_);
     layOut();
+    for (auto* month : pictures_) month->fit(zoom_);
+}
+
+void MonthsWindow::resizeEvent(QResizeEvent*) {
+    if (isMinimized()) return;
+    fit();
     repaintNow();
 }
 

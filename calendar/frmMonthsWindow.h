@@ -21,6 +21,8 @@ class MonthsWindow : public Window {
 
     /// The canvases of the months, in their order.
     std::vector<Canvas*> canvases();
+    /// Lays the view out in the window's size, without waiting for the window to be shown.
+    void fit();
     /// Shows what was drawn, and the selection.
     void showDrawn();
     /// Names the month's picture, and the button that opens it if the view has one.

@@ -325,8 +325,9 @@ std::vector<Canvas*> frmMain::openView(int view) {
     if (window->parentWidget() != middle_) {
         layout()->activate();
         middle_->layout()->addWidget(window);
-        window->show();
         window->resize(middle_->size());
+        window->fit();  // before it is drawn, so that it is drawn once
+        window->show();
         window->setFocus();
     }
     return window->canvases();
@@ -352,6 +353,7 @@ void frmMain::startUp() {
 }
 
 void frmMain::showCalendar() {
+    arrangePanels();
     InstallNoteEditor();
     LoadPlanner();
     Tell(Shell.showInPickers, SelectedDate);

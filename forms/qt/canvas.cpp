@@ -150,11 +150,14 @@ const Word& WordFor(const WordKey& key) {
 
 // -- The picture ----------------------------------------------------------------------------------------------------
 
-void PictureCanvas::resize(QSize size, double pixelRatio, double zoom) {
+bool PictureCanvas::resize(QSize size, double pixelRatio, double zoom) {
+    const QSize inDevice = (QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1});
+    if (inDevice == image_.size() && pixelRatio == ratio_ && zoom == zoom_) return false;
     ratio_ = pixelRatio;
     zoom_ = zoom;
-    image_ = QImage((QSizeF(size) * pixelRatio).toSize().expandedTo({1, 1}), QImage::Format_RGB32);
+    image_ = QImage(inDevice, QImage::Format_RGB32);
     clear();
+    return true;
 }
 
 Font PictureCanvas::zoomed(const Font& font) const {
@@ -281,10 +284,11 @@ QRect PictureBox::fromScale(const QRectF& rect) const {
     return QRectF(rect.left() * x, rect.top() * y, rect.width() * x, rect.height() * y).toAlignedRect();
 }
 
-void PictureBox::setZoom(double zoom) {
-    if (zoom == zoom_) return;
+void PictureBox::fit(double zoom) {
     zoom_ = zoom;
-    renew();
+    if (!canvas_.resize(size(), devicePixelRatioF(), zoom)) return;
+    Q_EMIT renewed();
+    update();
 }
 
 void PictureBox::setFrame(const QRectF& rect) {
@@ -294,15 +298,9 @@ void PictureBox::setFrame(const QRectF& rect) {
     update(fromScale(frame_).adjusted(-3, -3, 3, 3));
 }
 
-void PictureBox::renew() {
-    canvas_.resize(size(), devicePixelRatioF(), zoom_);
-    Q_EMIT renewed();
-    update();
-}
-
 void PictureBox::paintEvent(QPaintEvent* event) {
+    fit(zoom_);  // the box may be on another screen now
     const double ratio = devicePixelRatioF();
-    if (canvas_.image().size() != (QSizeF(size()) * ratio).toSize()) renew();
     QPainter painter(this);
     const QRect part = event->rect();
     const QRectF source(part.x() * ratio, part.y() * ratio, part.width() * ratio, part.height() * ratio);
@@ -313,4 +311,4 @@ void PictureBox::paintEvent(QPaintEvent* event) {
     painter.drawRoundedRect(QRectF(fromScale(frame_)).adjusted(1, 1, -1, -1), 3, 3);
 }
 
-void PictureBox::resizeEvent(QResizeEvent*) { renew(); }
+void PictureBox::resizeEvent(QResizeEvent*) { fit(zoom_); }

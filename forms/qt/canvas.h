@@ -18,8 +18,9 @@ QFont FromFont(const Font& font);
 /// A canvas that draws into a picture, crisp at the screen's scaling.
 class PictureCanvas : public Canvas {
   public:
-    /// Makes the picture `size` logical pixels large and white. The scale stays. `zoom` enlarges all fonts.
-    void resize(QSize size, double pixelRatio, double zoom = 1);
+    /// Makes the picture `size` logical pixels large and white, unless it is that large already. The scale stays. `zoom`
+    /// enlarges all fonts. True if the picture was made anew.
+    bool resize(QSize size, double pixelRatio, double zoom = 1);
     const QImage& image() const { return image_; }
 
     void setScale(double width, double height) override;
@@ -69,8 +70,9 @@ class PictureBox : public QWidget {
     QPointF toScale(QPointF point) const;
     /// The rectangle of the canvas's scale in the box.
     QRect fromScale(const QRectF& rect) const;
-    /// How much larger than at 100 % the fonts are drawn. The picture is made anew.
-    void setZoom(double zoom);
+    /// Gives the picture the box's size, without waiting for the box to be shown. The fonts are drawn `zoom` times as large
+    /// as at 100 %.
+    void fit(double zoom);
     /// Frames a rectangle of the canvas's scale, above the picture; an empty one frames nothing.
     void setFrame(const QRectF& rect);
 
@@ -91,8 +93,6 @@ class PictureBox : public QWidget {
     void mouseDoubleClickEvent(QMouseEvent* event) override { Q_EMIT doubleClick(event); }
 
   private:
-    void renew();
-
     PictureCanvas canvas_;
     double zoom_ = 1;
     QRectF frame_;
