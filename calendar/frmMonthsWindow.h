@@ -45,6 +45,9 @@ class MonthsWindow : public Window {
 
     void resizeEvent(QResizeEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    // With or without the focus the window looks the same: it is not painted anew.
+    void focusInEvent(QFocusEvent*) override {}
+    void focusOutEvent(QFocusEvent*) override {}
     void unload() override;
 
     QWidget* picMain;

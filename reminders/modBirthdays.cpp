@@ -117,7 +117,7 @@ void JoinCellsAgain() {
 }
 
 void MarkBirthdays(Year slot) {
-    JoinCells(slot);
+    if (BirthdayTables.years[slot].year != YearOfSlot(slot)) JoinCells(slot);
     PaintFlaggedDays(slot, BirthdayTables.years[slot].flag,
                      MarkerHidden[BirthdayCategory] ? 0 : MarkerColor[BirthdayCategory]);
 }

@@ -357,6 +357,7 @@ void frmMain::showCalendar() {
     InstallNoteEditor();
     LoadPlanner();
     Tell(Shell.showInPickers, SelectedDate);
+    ReadToDoList();
     Show1YearCalendar();
     lblDate->setText(FromText("Today is " + LongDate(Today())));
     menus_.enable(QStringLiteral("mnuOptDateClearMark"), false);
@@ -368,7 +369,6 @@ void frmMain::fillPanels() {
     Reporting("ReadHelpTopics", ReadHelpTopics);
     FillPendingBirthdayList();
     FillPendingAlertList();
-    ReadToDoList();
 }
 
 void frmMain::paintEvent(QPaintEvent* event) {

@@ -23,9 +23,9 @@ class frmMain : public Window {
 
     /// The start-up sequence, once: the calendar, then the panels beside it.
     void startUp();
-    /// Its first half: everything is read that the one-year view shows, and the view drawn.
+    /// Its first half: everything is read that the calendar and the to-do list show, and the one-year view drawn.
     void showCalendar();
-    /// Its second half: help, pending birthdays and alerts, the to-do list.
+    /// Its second half: help, pending birthdays and alerts.
     void fillPanels();
     /// Maximised where the screen is at least 1024 x 768, 800 x 600 logical pixels otherwise.
     void sizeToScreen();

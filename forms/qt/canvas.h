@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QFont>
-#include <QHash>
 #include <QImage>
 #include <QWidget>
 #include <memory>
@@ -18,8 +17,8 @@ QFont FromFont(const Font& font);
 /// A canvas that draws into a picture, crisp at the screen's scaling.
 class PictureCanvas : public Canvas {
   public:
-    /// Makes the picture `size` logical pixels large and white, unless it is that large already. The scale stays. `zoom`
-    /// enlarges all fonts. True if the picture was made anew.
+    /// Makes the picture `size` logical pixels large and white, unless it is that large already. The scale stays.
+    /// `zoom` enlarges all fonts. True if the picture was made anew.
     bool resize(QSize size, double pixelRatio, double zoom = 1);
     const QImage& image() const { return image_; }
 
@@ -70,8 +69,8 @@ class PictureBox : public QWidget {
     QPointF toScale(QPointF point) const;
     /// The rectangle of the canvas's scale in the box.
     QRect fromScale(const QRectF& rect) const;
-    /// Gives the picture the box's size, without waiting for the box to be shown. The fonts are drawn `zoom` times as large
-    /// as at 100 %.
+    /// Gives the picture the box's size, without waiting for the box to be shown. The fonts are drawn `zoom` times as
+    /// large as at 100 %.
     void fit(double zoom);
     /// Frames a rectangle of the canvas's scale, above the picture; an empty one frames nothing.
     void setFrame(const QRectF& rect);

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPalette>
+#include <QPixmapCache>
 #include <algorithm>
 #include <cmath>
 
@@ -357,7 +358,17 @@ QPixmap DrawPicture(Picture picture, Look look, QSize size, double pixelRatio, c
     const QSize device(static_cast<int>(std::lround(size.width() * pixelRatio)),
                        static_cast<int>(std::lround(size.height() * pixelRatio)));
     if (device.isEmpty()) return {};
-    QPixmap pixmap(device);
+    const QString key = QStringLiteral("Picture %1 %2 %3 %4 %5 %6 %7")
+                            .arg(static_cast<int>(picture))
+                            .arg(static_cast<int>(look))
+                            .arg(device.width())
+                            .arg(device.height())
+                            .arg(pixelRatio)
+                            .arg(palette.color(QPalette::Window).rgba())
+                            .arg(palette.color(QPalette::WindowText).rgba());
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap)) return pixmap;
+    pixmap = QPixmap(device);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -367,12 +378,13 @@ QPixmap DrawPicture(Picture picture, Look look, QSize size, double pixelRatio, c
     DrawOn(board, picture);
     painter.end();
     pixmap.setDevicePixelRatio(pixelRatio);
+    QPixmapCache::insert(key, pixmap);
     return pixmap;
 }
 
 QIcon ProgramIcon() {
     QIcon icon;
-    for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256}) icon.addPixmap(DrawProgramIcon(pixels));
+    for (const int pixels : {16, 24, 32, 48, 64, 128}) icon.addPixmap(DrawProgramIcon(pixels));
     return icon;
 }
 

@@ -34,7 +34,7 @@ QPixmap DrawPicture(Picture picture, Look look, QSize size, double pixelRatio, c
 /// The colour that stands out, in the shade that reads on the palette's windows.
 QColor AccentColor(const QPalette& palette);
 
-/// The program's own icon, in the sizes from 16 to 256 pixels.
+/// The program's own icon, in the sizes from 16 to 128 pixels.
 QIcon ProgramIcon();
 
 /// Shows one picture and follows the palette and the screen's scaling.

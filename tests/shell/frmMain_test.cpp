@@ -173,7 +173,7 @@ TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
     const QPoint middle = placeOf(november, MakeDate(2026, 11, 18));
     const QImage shot = november->grab().toImage();
-    EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -4))), QuickMarksColor);
+    EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
     dialogs_.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
     EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
@@ -211,7 +211,7 @@ TEST_F(MainWindowTest, ResizingReadsNoFile) {
     window_->resize(1500, 1000);
     QCoreApplication::processEvents();
     const QImage shot = picture(10)->grab().toImage();
-    EXPECT_EQ(ToColor(shot.pixelColor(placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -4))), MeetingColor);
+    EXPECT_EQ(ToColor(shot.pixelColor(placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -7))), MeetingColor);
 }
 
 TEST_F(MainWindowTest, AlertsCanBeIgnored) {

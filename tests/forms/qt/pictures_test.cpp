@@ -57,8 +57,8 @@ TEST(Pictures, DifferWhereTheyMustBeToldApart) {
     EXPECT_TRUE(DrawPicture(Picture::Help, Look::Normal, {0, 24}, 1, Light).isNull());
 }
 
-TEST(Pictures, ProgramIconHasEverySizeFromTheTitleBarToTheDesktop) {
-    for (const int size : {16, 32, 48, 256}) {
+TEST(Pictures, ProgramIconHasEverySizeFromTheTitleBarToTheTaskSwitcher) {
+    for (const int size : {16, 32, 48, 128}) {
         const QPixmap icon = ProgramIcon().pixmap(QSize(size, size), 1.0);
         ASSERT_EQ(icon.size(), QSize(size, size));
         EXPECT_GT(Legible(icon.toImage(), Qt::white), size * size / 10);
