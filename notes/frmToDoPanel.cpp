@@ -18,6 +18,8 @@ constexpr int Gap = Pixels(90);
 constexpr int MarkSize = 16;
 constexpr int LeastTextWidth = Pixels(1500);
 
+int RowHeight(const QFontMetrics& metrics) { return std::max(RowPitch, metrics.height()); }
+
 std::size_t RowOf(int item) { return static_cast<std::size_t>(item - 1); }
 }  // namespace
 
@@ -46,16 +48,15 @@ void ToDoPanel::makeItem(int item) {
     lblToDo[at]->setTextFormat(Qt::PlainText);
 }
 
-int ToDoPanel::rowHeight() const { return std::max(RowPitch, fontMetrics().height()); }
-
-QSize ToDoPanel::sizeHint() const {
-    const int top = lblTop->sizeHint().height() + 2 * Gap;
-    return {SecondColumn + TextOffset + LeastTextWidth, top + ItemsInColumn * rowHeight() + Gap};
+int ToDoPanel::HeightWith(const QFontMetrics& metrics) {
+    return metrics.height() + ItemsInColumn * RowHeight(metrics) + 3 * Gap;
 }
 
+QSize ToDoPanel::sizeHint() const { return {SecondColumn + TextOffset + LeastTextWidth, HeightWith(fontMetrics())}; }
+
 void ToDoPanel::placeItems() {
-    const int height = rowHeight();
-    lblTop->setGeometry(FirstColumn, Gap, width() - 2 * FirstColumn, lblTop->sizeHint().height());
+    const int height = RowHeight(fontMetrics());
+    lblTop->setGeometry(FirstColumn, Gap, width() - 2 * FirstColumn, fontMetrics().height());
     const int top = lblTop->geometry().bottom() + Gap;
     for (int item = 1; item <= ToDoRows; ++item) {
         const auto at = static_cast<std::size_t>(item);

@@ -27,6 +27,8 @@ class ToDoPanel : public QWidget {
 
     /// Shows the tables.
     void refresh();
+    /// The height of a panel whose font has these metrics, pixels.
+    static int HeightWith(const QFontMetrics& metrics);
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override { return sizeHint(); }
 
@@ -37,6 +39,5 @@ class ToDoPanel : public QWidget {
   private:
     void makeItem(int item);
     void placeItems();
-    int rowHeight() const;
     void showText(int item);
 };

@@ -46,6 +46,20 @@ constexpr int TopStripHeight = 495;  // twips
 constexpr int RightPanelWidth = 3450;
 constexpr int StatusStripHeight = 360;
 
+QStringList Numbers(int first, int last) {
+    QStringList numbers;
+    for (int number = first; number <= last; ++number) numbers += QString::number(number);
+    return numbers;
+}
+
+/// Shows a panel in the place that is kept for it.
+void PutIn(QWidget* place, QWidget* panel, const QMargins& margins) {
+    auto* layout = new QVBoxLayout(place);
+    layout->setContentsMargins(margins);
+    layout->addWidget(panel);
+    panel->show();
+}
+
 QLabel* Label(const QString& name, const QString& text, QWidget* parent) {
     auto* label = Named(new QLabel(text, parent), name);
     label->setTextFormat(Qt::PlainText);
@@ -95,7 +109,7 @@ void frmMain::buildMenus() {
 
 QComboBox* frmMain::picker(const QString& name, const QString& spoken, int characters) {
     auto* box = Named(new QComboBox(picTop), name, spoken);
-    box->setEditable(true);
+    box->setLineEdit(new QLineEdit(box));  // makes it editable, and its list of items only when that is opened
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setMinimumContentsLength(characters);
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
@@ -176,17 +190,18 @@ void frmMain::buildRightPanel() {
     picRight->setFixedWidth(Pixels(RightPanelWidth));
 }
 
-void frmMain::fillRightPanel() {
-    auto* column = new QVBoxLayout(picRight);
+QWidget* frmMain::makeRightPanel() {
+    auto* panel = new QWidget;
+    auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(6, 4, 8, 4);
     column->setSpacing(3);
     const auto list = [&](const char* label, const char* caption, const char* name, QLabel*& date, const char* dateName,
                           const char* dateCaption) {
-        column->addWidget(Label(QString::fromLatin1(label), QString::fromLatin1(caption), picRight));
-        auto* box = Named(new QListWidget(picRight), QString::fromLatin1(name), QString::fromLatin1(caption));
+        column->addWidget(Label(QString::fromLatin1(label), QString::fromLatin1(caption), panel));
+        auto* box = Named(new QListWidget(panel), QString::fromLatin1(name), QString::fromLatin1(caption));
         box->setMinimumHeight(60);
         column->addWidget(box, 3);
-        column->addWidget(date = Label(QString::fromLatin1(dateName), QString::fromLatin1(dateCaption), picRight));
+        column->addWidget(date = Label(QString::fromLatin1(dateName), QString::fromLatin1(dateCaption), panel));
         column->addSpacing(4);
         return box;
     };
@@ -196,7 +211,7 @@ void frmMain::fillRightPanel() {
                         "lblBirthdayDate", "Date =");
     connect(lstAlerts, &QListWidget::currentRowChanged, this, &frmMain::lstAlerts_Click);
     connect(lstBirthdays, &QListWidget::currentRowChanged, this, &frmMain::lstBirthdays_Click);
-    column->addWidget(Named(new HelpPanel(picRight), QStringLiteral("HelpPanel"), QStringLiteral("Help")), 5);
+    column->addWidget(Named(new HelpPanel(panel), QStringLiteral("HelpPanel"), QStringLiteral("Help")), 5);
     ShowPendingAlerts = [this] {
         ShowEntries(lstAlerts, PendingAlertEntries);
         lblAlertDate->setText(QStringLiteral("Alert Date ="));
@@ -205,6 +220,7 @@ void frmMain::fillRightPanel() {
         ShowEntries(lstBirthdays, PendingBirthdayEntries);
         lblBirthdayDate->setText(QStringLiteral("Date ="));
     };
+    return panel;
 }
 
 void frmMain::buildBottomPanels() {
@@ -223,9 +239,7 @@ void frmMain::buildBottomPanels() {
     row->addWidget(lblX = Label(QStringLiteral("lblX"), {}, picBottom[0]));
     row->addWidget(lblY = Label(QStringLiteral("lblY"), {}, picBottom[0]));
     lblDate->installEventFilter(this);
-    auto* inToDo = new QVBoxLayout(picBottom[1]);
-    inToDo->setContentsMargins(8, 2, 8, 4);
-    inToDo->addWidget(Named(new ToDoPanel(picBottom[1]), QStringLiteral("ToDoPanel"), QStringLiteral("To Do List")));
+    picBottom[1]->setFixedHeight(ToDoPanel::HeightWith(fontMetrics()) + 6);
 }
 
 void frmMain::layOutParts() {
@@ -245,9 +259,11 @@ void frmMain::layOutParts() {
 }
 
 void frmMain::loadComboBoxes() {
-    for (int month = 1; month <= 12; ++month) cmbMonth->addItem(FromText(MonthName(month)));
-    for (int day = 1; day <= 31; ++day) cmbDay->addItem(QString::number(day));
-    for (int year = 2008; year <= 2020; ++year) cmbYear->addItem(QString::number(year));
+    QStringList months;
+    for (int month = 1; month <= 12; ++month) months += FromText(MonthName(month));
+    cmbMonth->addItems(months);
+    cmbDay->addItems(Numbers(1, 31));
+    cmbYear->addItems(Numbers(2008, 2020));
     cmbMonth->setMaxVisibleItems(12);
     cmbDay->setMaxVisibleItems(16);
     cmbYear->setMaxVisibleItems(13);
@@ -357,23 +373,34 @@ void frmMain::showCalendar() {
     InstallNoteEditor();
     LoadPlanner();
     Tell(Shell.showInPickers, SelectedDate);
-    ReadToDoList();
     Show1YearCalendar();
     lblDate->setText(FromText("Today is " + LongDate(Today())));
     menus_.enable(QStringLiteral("mnuOptDateClearMark"), false);
     menus_.enable(QStringLiteral("mnuOptDateAttachHoverText"), false);
+    calendarShown_ = true;
+    update();
 }
 
 void frmMain::fillPanels() {
-    fillRightPanel();
+    // A panel is shown when everything is in it: it is laid out and painted once.
     Reporting("ReadHelpTopics", ReadHelpTopics);
+    QWidget* right = makeRightPanel();
     FillPendingBirthdayList();
     FillPendingAlertList();
+    ReadToDoList();
+    auto* toDo = Named(new ToDoPanel, QStringLiteral("ToDoPanel"), QStringLiteral("To Do List"));
+    PutIn(picRight, right, {});
+    PutIn(picBottom[1], toDo, {8, 2, 8, 4});
+    // From here on the panel itself asks for its height, and follows its font.
+    picBottom[1]->setMinimumHeight(0);
+    picBottom[1]->setMaximumHeight(QWIDGETSIZE_MAX);
+    picBottom[1]->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
 }
 
 void frmMain::paintEvent(QPaintEvent* event) {
     Window::paintEvent(event);
-    if (std::exchange(painted_, true)) return;
+    // While a file is being reported at start, the window is painted without its calendar.
+    if (!calendarShown_ || std::exchange(painted_, true)) return;
     // Behind the event, when the picture of the window has reached the screen.
     QTimer::singleShot(0, this, [this] { Q_EMIT firstPainted(); });
 }
@@ -462,7 +489,7 @@ void frmMain::resizeEvent(QResizeEvent* event) {
 
 void frmMain::arrangePanels() {
     picRight->setVisible(Twips(width()) >= Twips(picRight->width()) + ViewWidth);
-    const int toDoHeight = Twips(picBottom[1]->sizeHint().height());
+    const int toDoHeight = Twips(ToDoPanel::HeightWith(fontMetrics()));
     picBottom[1]->setVisible(Twips(height()) >=
                              Twips(picBottom[0]->sizeHint().height()) + ViewHeight + toDoHeight + TopStripHeight);
 }

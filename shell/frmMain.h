@@ -23,9 +23,9 @@ class frmMain : public Window {
 
     /// The start-up sequence, once: the calendar, then the panels beside it.
     void startUp();
-    /// Its first half: everything is read that the calendar and the to-do list show, and the one-year view drawn.
+    /// Its first half: everything is read that the one-year view shows, and the view drawn.
     void showCalendar();
-    /// Its second half: help, pending birthdays and alerts.
+    /// Its second half: help, pending birthdays and alerts, the to-do list.
     void fillPanels();
     /// Maximised where the screen is at least 1024 x 768, 800 x 600 logical pixels otherwise.
     void sizeToScreen();
@@ -72,7 +72,7 @@ class frmMain : public Window {
     QComboBox* picker(const QString& name, const QString& spoken, int characters);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
-    void fillRightPanel();
+    QWidget* makeRightPanel();
     void buildBottomPanels();
     void layOutParts();
     void fillShellCalls();
@@ -89,7 +89,8 @@ class frmMain : public Window {
     void arrangePanels();
 
     Menus menus_;
-    bool painted_ = false;
+    bool calendarShown_ = false;
+    bool painted_ = false;             // since then
     QWidget* middle_;                  // where the calendar windows stand
     QPointer<MonthsWindow> calendar_;  // the one that is open
 };

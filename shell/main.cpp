@@ -26,6 +26,7 @@ void MakeLink(bool onDesktop, const std::string& caption, const std::string& pro
 }  // namespace
 
 int main(int /*argc*/, char** argv) {
+    UseFewThreads();
     std::optional<FontScan> fonts(std::in_place);
     int programNameOnly = 1;  // the program takes no options, the toolkit's own included
     QApplication application(programNameOnly, argv);
@@ -49,7 +50,7 @@ int main(int /*argc*/, char** argv) {
         QApplication::setWindowIcon(ProgramIcon());
         QTimer::singleShot(1000, window, CheckPrinter);
     });
+    window->show();  // the window manager places it while the calendar is being drawn
     window->showCalendar();
-    window->show();
     return QApplication::exec();
 }

@@ -8,11 +8,10 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
+#include <QTextLayout>
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <memory>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -64,28 +63,20 @@ size_t qHash(const WordKey& key, size_t seed) {
 
 /// A word without its colour.
 struct Word {
+    double width;            // logical pixels
     QRect place;             // from the text's corner, device pixels
     std::vector<uchar> ink;  // how much of each pixel it covers, 0..255, row by row: once for each byte of the pixel
 };
 
-struct FontFacts {
-    QFontMetricsF metrics;
-    std::unordered_map<std::string, double> widths;
-};
-
-/// The measures of a font, kept: a month asks for the same ones again and again. A program uses few fonts, and finds
+/// The metrics of a font, kept: a month asks for the same ones again and again. A program uses few fonts, and finds
 /// them faster by looking at each than by hashing their names.
-FontFacts& FactsOf(const Font& font) {
-    static std::vector<std::pair<Font, std::unique_ptr<FontFacts>>> known;
-    static std::size_t last = 0;  // most calls ask for the font of the call before
-    if (last < known.size() && known[last].first == font) return *known[last].second;
+const QFontMetricsF& MetricsOf(const Font& font) {
+    static std::vector<std::pair<Font, QFontMetricsF>> known;
+    const auto place = std::find_if(known.begin(), known.end(), [&](const auto& each) { return each.first == font; });
+    if (place != known.end()) return place->second;
     constexpr std::size_t MostFonts = 64;  // a window dragged larger asks for many sizes, each for a moment
-    for (last = 0; last < known.size(); ++last)
-        if (known[last].first == font) return *known[last].second;
     if (known.size() == MostFonts) known.clear();
-    last = known.size();
-    known.emplace_back(font, std::make_unique<FontFacts>(FontFacts{QFontMetricsF(FromFont(font)), {}}));
-    return *known.back().second;
+    return known.emplace_back(font, QFontMetricsF(FromFont(font))).second;
 }
 
 /// The part of a transparent picture that something is drawn on.
@@ -103,23 +94,24 @@ QRect InkOf(const QImage& image) {
 }
 
 Word DrawnWord(const WordKey& key) {
-    const QFont font = FromFont(key.font);
-    const QFontMetricsF metrics(font);
-    const QString shown = FromText(key.word);
+    QTextLayout layout(FromText(key.word), FromFont(key.font));
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const QFontMetricsF& metrics = MetricsOf(key.font);
     // Room around the text for strokes that reach over its box.
-    const QRectF room = QRectF(0, 0, metrics.horizontalAdvance(shown), metrics.height()).adjusted(-2, -1, 2, 1);
+    const QRectF room = QRectF(0, 0, line.horizontalAdvance(), metrics.height()).adjusted(-2, -1, 2, 1);
     QImage image((room.size() * key.ratio).toSize(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     image.setDevicePixelRatio(key.ratio);
     QPainter painter(&image);
-    painter.setFont(font);
-    painter.drawText(QPointF(-room.left(), -room.top() + metrics.ascent()), shown);
+    layout.draw(&painter, QPointF(0, metrics.ascent() - line.ascent()) - room.topLeft());
     painter.end();
     // Half of a line's height is empty: only the ink is kept, to be copied sooner. Rows of whole steps of `Mix` are
     // best.
     QRect ink = InkOf(image);
     ink.setWidth(std::min((ink.width() + 3) / 4 * 4, image.width() - ink.left()));
-    Word word{ink.translated((room.topLeft() * key.ratio).toPoint()), {}};
+    Word word{line.horizontalAdvance(), ink.translated((room.topLeft() * key.ratio).toPoint()), {}};
     word.ink.reserve(sizeof(QRgb) * static_cast<std::size_t>(ink.width() * ink.height()));
     for (int y = ink.top(); y <= ink.bottom(); ++y) {
         const auto* row = reinterpret_cast<const QRgb*>(image.constScanLine(y));
@@ -250,15 +242,11 @@ void PictureCanvas::text(double x, double y, std::string_view text, const Font& 
 }
 
 double PictureCanvas::textWidth(std::string_view text, const Font& font) {
-    FontFacts& facts = FactsOf(zoomed(font));
-    if (facts.widths.size() > 4096) facts.widths.clear();
-    const auto [known, isNew] = facts.widths.try_emplace(std::string(text));
-    if (isNew) known->second = facts.metrics.horizontalAdvance(FromText(text));
-    return known->second * ratio_ * width_ / image_.width();
+    return WordFor({std::string(text), zoomed(font), ratio_}).width * ratio_ * width_ / image_.width();
 }
 
 double PictureCanvas::textHeight(const Font& font) {
-    return FactsOf(zoomed(font)).metrics.height() * ratio_ * height_ / image_.height();
+    return MetricsOf(zoomed(font)).height() * ratio_ * height_ / image_.height();
 }
 
 void PictureCanvas::picture(double x, double y, double width, double height, const Path& file) {

@@ -44,7 +44,10 @@ void PictureButton::paintEvent(QPaintEvent*) {
         QColor plate = AccentColor(palette());
         plate.setAlphaF(pressed ? 0.20F : 0.10F);
         painter.setBrush(plate);
+        painter.setPen(Qt::NoPen);
+        painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 3, 3);
         plate.setAlphaF(pressed ? 0.80F : 0.35F);
+        painter.setBrush(Qt::NoBrush);
         painter.setPen(plate);
         painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     }

@@ -1,6 +1,11 @@
-// What the program would wait for later, begun at once.
+// What makes the start short.
 #include "forms/qt/warmUp.h"
 
+#include <QThreadPool>
+
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
 #ifdef TASMORO_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 
@@ -8,6 +13,14 @@ FontScan::FontScan() : thread_([] { FcInit(); }) {}
 #else
 FontScan::FontScan() = default;
 #endif
+
+void UseFewThreads() {
+#ifdef __GLIBC__
+    mallopt(M_ARENA_MAX, 1);  // a heap for each thread is made in many small steps
+#endif
+    // The toolkit splits the filling of a scroll bar among as many threads as there are processors.
+    QThreadPool::globalInstance()->setMaxThreadCount(1);
+}
 
 FontScan::~FontScan() {
     if (thread_.joinable()) thread_.join();

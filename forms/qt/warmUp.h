@@ -1,7 +1,10 @@
-// What the program would wait for later, begun at once.
+// What makes the start short: the work that is begun at once, and the work that is not done.
 #pragma once
 
 #include <thread>
+
+/// Keeps the toolkit and the C library from dividing work that is too small for it. Call it before anything else.
+void UseFewThreads();
 
 /// Scans the system's fonts beside the making of the application object, which needs most of the time that the scan
 /// takes. Make one before the application object; it waits for the scan where it goes out of scope. Where fonts are not

@@ -206,6 +206,26 @@ TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {
     }
 }
 
+TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBeforeIt) {
+    UnloadAllWindows();
+    folder_.put("Alerts.dat", "nothing\r\n46350:0003:Order the cake\r\n");
+    int boxes = 0;
+    const Dialogs scripted = SetDialogs({[&](const std::string&, Buttons, const std::string&) {
+                                             QTest::qWait(20);  // the window is painted behind the box
+                                             return ++boxes, Answer::Ok;
+                                         },
+                                         {}});
+    window_ = new frmMain;
+    QObject::connect(window_, &frmMain::firstPainted, window_, &frmMain::fillPanels);
+    window_->show();
+    window_->showCalendar();
+    SetDialogs(scripted);
+    EXPECT_EQ(boxes, 1);
+    EXPECT_EQ(window_->lstAlerts, nullptr);
+    EXPECT_TRUE(QTest::qWaitFor([this] { return window_->lstAlerts != nullptr; }));
+    EXPECT_EQ(window_->lstAlerts->count(), 1);
+}
+
 TEST_F(MainWindowTest, ResizingReadsNoFile) {
     folder_.put("2026Marks.dat", "not a mark");
     window_->resize(1500, 1000);
