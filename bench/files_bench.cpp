@@ -1,9 +1,9 @@
 // Whole files against what the system and the toolkit offer, with 1 MB files in /var/tmp (a real disk, not memory).
 //
-// 2026-11-22, two virtual cores, ext4, medians of 101 pairs, three runs:
-//   WriteOneMegabyte                 1.00 to 1.05 of the raw calls  (aim: 1.15; 1.3 ms or 10 ms, as the disk was busy)
-//   ReadOneMegabyteIntoLines         0.08 to 0.09 of readLine       (aim: 0.33; 0.16 ms against 1.9 ms)
-//   ReadOneMegabyteIntoCopiedLines   0.32 to 0.33 of readLine       (aim: 0.33; 0.64 ms, of which 0.43 ms the copies)
+// 2026-11-23, four virtual cores, ext4, medians of 101 pairs:
+//   WriteOneMegabyte                 0.95 to 1.01 of the raw calls  (aim: 1.15; 1.2 ms)
+//   ReadOneMegabyteIntoLines         0.09 to 0.10 of readLine       (aim: 0.33; 0.2 ms against 2.1 ms)
+//   ReadOneMegabyteIntoCopiedLines   0.25 to 0.26 of readLine       (aim: 0.33; 0.5 ms, most of it the copies)
 #include <fcntl.h>
 #include <unistd.h>
 

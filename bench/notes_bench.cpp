@@ -1,12 +1,12 @@
 // Notes: the term that a key brings, a key in a long note, searching and saving a year.
 //
-// 2026-11-22, two virtual cores (busy), ext4, medians:
-//   FindTermAmong100000       1.27 to 1.31 of ten terms (aim: 2; 22 ns a fragment)
-//   KeyInANoteOfOneMegabyte   1.25 of an empty note     (aim: 3; 0.25 ms for a letter, its completion and a blank)
-//   SearchAYear/word          0.23 of QString::contains (aim: 0.33; 2.3 ms for 3.7 MB)
-//   SearchAYear/shortWord     0.46                      (aim: 0.33: three letters leave little to step over)
-//   SearchAYear/words         0.32                      (aim: 0.33; 1.1 ms)
-//   SaveAYear                 1.03 to 1.14 of raw calls (aim: 1.2; 16 ms, as the disk was busy)
+// 2026-11-23, four virtual cores, ext4, medians:
+//   FindTermAmong100000       1.76 to 1.82 of ten terms     (aim: 2; 22 ns a fragment)
+//   KeyInANoteOfOneMegabyte   1.25 of an empty note         (aim: 3; 0.25 ms for a letter, its completion and a blank)
+//   SearchAYear/word          0.07 to 0.09 of contains      (aim: 0.33; 0.5 ms for 3.7 MB)
+//   SearchAYear/shortWord     0.06 to 0.08                  (aim: 0.33)
+//   SearchAYear/words         0.14 to 0.16                  (aim: 0.33)
+//   SaveAYear                 1.01 to 1.09 of the raw calls (aim: 1.2; 3.5 ms)
 #include <fcntl.h>
 #include <unistd.h>
 

@@ -1,14 +1,14 @@
 // Birthdays, alerts and their windows against reading the same bytes into lines and filling plain list boxes.
 //
-// 2026-11-22, two virtual cores, nothing else running, medians of 51 pairs, two runs:
-//   ReadBirthdays20000Afresh     2.23 to 2.27 of plain lines   (aim: 3)
-//   ReadAlerts20000Afresh        2.45 to 2.50 of plain lines   (aim: 3)
-//   ReadBirthdays20000           1.76 to 1.79 of plain lines   (a list read again keeps its memory)
-//   ReadAlerts20000              1.02 to 1.05 of plain lines
-//   Birthdays40000Against20000   1.67 to 1.70                  (aim: 2.2)
-//   Alerts40000Against20000      1.52 to 1.65                  (aim: 2.2)
-//   OpenManagerOf2000Birthdays   0.24 of two plain list boxes, both on the screen   (aim: 1.5)
-//   TickACategoryInTheYearView   1.16 to 1.17 of a year drawn  (aim: 1.2)
+// 2026-11-23, four virtual cores, medians of 51 pairs:
+//   ReadBirthdays20000Afresh     2.54 of plain lines   (aim: 3)
+//   ReadAlerts20000Afresh        2.32 of plain lines   (aim: 3)
+//   ReadBirthdays20000           1.55 of plain lines   (a list read again keeps its memory)
+//   ReadAlerts20000              1.01 of plain lines
+//   Birthdays40000Against20000   1.85          (aim: 2.2)
+//   Alerts40000Against20000      1.55          (aim: 2.2)
+//   OpenManagerOf2000Birthdays   0.30 of two plain list boxes, both on the screen   (aim: 1.5)
+//   TickACategoryInTheYearView   1.13 of a year drawn  (aim: 1.2)
 #include <unistd.h>
 #include <QApplication>
 #include <QListWidget>

@@ -1,8 +1,8 @@
 // Searching the help and counting weekdays, each against the plain way of doing it.
 //
-// 2026-11-22, two virtual cores, medians of 51 pairs, three runs:
-//   SearchHelpForAbsentPhrase   0.03 to 0.05 of upper-cased copies  (aim: 0.33; 0.6 ms against 16 ms)
-//   CountAndListWeekdays        0.58 to 0.63 of addItems with texts made before, machine quiet  (aim: 1.5)
+// 2026-11-23, four virtual cores, medians of 51 pairs:
+//   SearchHelpForAbsentPhrase   0.23 to 0.24 of upper-cased copies  (aim: 0.33; 1.6 ms against 7 ms)
+//   CountAndListWeekdays        0.47 to 0.49 of addItems with texts made before  (aim: 1.5)
 #include <QApplication>
 #include <QListWidget>
 #include <string>
