@@ -3,9 +3,6 @@
 
 #include <QThreadPool>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 #ifdef TASMORO_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 
@@ -15,9 +12,6 @@ FontScan::FontScan() = default;
 #endif
 
 void UseFewThreads() {
-#ifdef __GLIBC__
-    mallopt(M_ARENA_MAX, 1);  // a heap for each thread is made in many small steps
-#endif
     // The toolkit splits the filling of a scroll bar among as many threads as there are processors.
     QThreadPool::globalInstance()->setMaxThreadCount(1);
 }

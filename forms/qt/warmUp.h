@@ -3,7 +3,7 @@
 
 #include <thread>
 
-/// Keeps the toolkit and the C library from dividing work that is too small for it. Call it before anything else.
+/// Keeps the toolkit from dividing painting that is too small for it among threads. Call it before anything else.
 void UseFewThreads();
 
 /// Scans the system's fonts beside the making of the application object, which needs most of the time that the scan
