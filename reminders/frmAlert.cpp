@@ -111,47 +111,30 @@ void frmAlert::connectControls() {
 }
 
 void frmAlert::buildMenus() {
-    const auto item = [](const char* name, const char* caption, const char* parent, std::function<void()> command,
-                         const QKeySequence& shortcut = {}, bool checkable = false) {
-        return MenuItem{QString::fromLatin1(name),
-                        QString::fromLatin1(caption),
-                        QString::fromLatin1(parent),
-                        std::move(command),
-                        checkable,
-                        shortcut};
-    };
     menus.build(new QMenuBar(this),
-                {item("mnuFile", "&File", "", {}),
-                 item(
+                {Without("mnuFile", "&File", ""),
+                 With(
                      "mnuFileNew", "&New", "mnuFile", [this] { mnuFileNew_Click(); }, QKeySequence::New),
-                 item(
+                 With(
                      "mnuFileSave", "&Save", "mnuFile", [this] { cmdSave_Click(0); }, QKeySequence::Save),
-                 item("mnuFileExit", "E&xit", "mnuFile", [this] { close(); }), item("mnuEdit", "&Edit", "", {}),
-                 item(
+                 With("mnuFileExit", "E&xit", "mnuFile", [this] { close(); }), Without("mnuEdit", "&Edit", ""),
+                 With(
                      "mnuEditFind", "&Find", "mnuEdit", [this] { mnuEditFind_Click(); }, QKeySequence::Find),
-                 item("mnuOptions", "&Options", "", {}),
-                 item("mnuOptDeleteOldAlerts", "Delete Expired Alerts", "mnuOptions",
+                 Without("mnuOptions", "&Options", ""),
+                 With("mnuOptDeleteOldAlerts", "Delete Expired Alerts", "mnuOptions",
                       [this] { mnuOptDeleteOldAlerts_Click(); }),
-                 item("mnuView", "&View", "", {}),
-                 item(
-                     "mnuViewAll", "All Alerts", "mnuView", [this] { view(false); }, {}, true),
-                 item(
-                     "mnuViewPending", "Pending Alerts Only", "mnuView", [this] { view(true); }, {}, true),
-                 item("mnuSort", "Sort &List", "", {}),
-                 item(
-                     "mnuSortDate", "By Date", "mnuSort",
-                     [this] {
-                         sortBy(1);
-                         select(0);
-                     },
-                     {}, true),
-                 item(
-                     "mnuSortMessage", "By Message", "mnuSort",
-                     [this] {
-                         sortBy(2);
-                         select(0);
-                     },
-                     {}, true)});
+                 Without("mnuView", "&View", ""), Check("mnuViewAll", "All Alerts", "mnuView", [this] { view(false); }),
+                 Check("mnuViewPending", "Pending Alerts Only", "mnuView", [this] { view(true); }),
+                 Without("mnuSort", "Sort &List", ""),
+                 Check("mnuSortDate", "By Date", "mnuSort",
+                       [this] {
+                           sortBy(1);
+                           select(0);
+                       }),
+                 Check("mnuSortMessage", "By Message", "mnuSort", [this] {
+                     sortBy(2);
+                     select(0);
+                 })});
 }
 
 QLayout* frmAlert::dateLayout() {

@@ -110,31 +110,22 @@ void frmBDay::makeLists() {
 }
 
 void frmBDay::buildMenus() {
-    const auto item = [](const char* name, const char* caption, const char* parent, std::function<void()> command,
-                         const QKeySequence& shortcut = {}) {
-        return MenuItem{QString::fromLatin1(name),
-                        QString::fromLatin1(caption),
-                        QString::fromLatin1(parent),
-                        std::move(command),
-                        false,
-                        shortcut};
-    };
     menus.build(
         new QMenuBar(this),
-        {item("mnuFile", "&File", "", {}),
-         item(
+        {Without("mnuFile", "&File", ""),
+         With(
              "mnuFileNew", "&New", "mnuFile", [this] { mnuFileNew_Click(); }, QKeySequence::New),
-         item(
+         With(
              "mnuFileSave", "&Save", "mnuFile", [this] { cmdSave_Click(); }, QKeySequence::Save),
-         item(
+         With(
              "mnuFilePrint", "&Print Record", "mnuFile", [this] { PrintBirthdayRecord(typed()); }, QKeySequence::Print),
-         item("mnuFilePrintList", "Print &Entire List", "mnuFile", [this] { PrintBirthdayList(visibleEntries()); }),
-         item("mnuFilePrintSelected", "Print Selected Items in the List", "mnuFile",
+         With("mnuFilePrintList", "Print &Entire List", "mnuFile", [this] { PrintBirthdayList(visibleEntries()); }),
+         With("mnuFilePrintSelected", "Print Selected Items in the List", "mnuFile",
               [this] { PrintSelectedBirthdays(selectedEntries()); }),
-         item("mnuOptions", "&Options", "", {}), item("mnuMarkOptions", "&Mark Options", "mnuOptions", {}),
-         item("mnuOptMarkAll", "Mark Calendars with All Birthdays", "mnuMarkOptions", MarkAllBirthdays),
-         item("mnuView", "&View", "", {}), item("mnuViewAll", "&All", "mnuView", [this] { view(false); }),
-         item("mnuViewUpcoming", "&Upcoming Only", "mnuView", [this] { view(true); })});
+         Without("mnuOptions", "&Options", ""), Without("mnuMarkOptions", "&Mark Options", "mnuOptions"),
+         With("mnuOptMarkAll", "Mark Calendars with All Birthdays", "mnuMarkOptions", MarkAllBirthdays),
+         Without("mnuView", "&View", ""), With("mnuViewAll", "&All", "mnuView", [this] { view(false); }),
+         With("mnuViewUpcoming", "&Upcoming Only", "mnuView", [this] { view(true); })});
 }
 
 QLayout* frmBDay::editLayout() {

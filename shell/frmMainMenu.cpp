@@ -37,27 +37,6 @@ const char* DefaultCaption(int category) {
     return defaults.caption.at(static_cast<std::size_t>(category)).c_str();
 }
 
-/// An item that has no command and never will: shown, disabled.
-MenuItem Without(const char* name, const char* caption, const char* parent) {
-    return {QString::fromLatin1(name), QString::fromLatin1(caption), QString::fromLatin1(parent)};
-}
-
-MenuItem With(const char* name, const char* caption, const char* parent, std::function<void()> command,
-              const QKeySequence& shortcut = {}) {
-    return {QString::fromLatin1(name),
-            QString::fromLatin1(caption),
-            QString::fromLatin1(parent),
-            std::move(command),
-            false,
-            shortcut};
-}
-
-MenuItem Check(const char* name, const char* caption, const char* parent, std::function<void()> command) {
-    MenuItem item = With(name, caption, parent, std::move(command));
-    item.checkable = true;
-    return item;
-}
-
 void Append(Table& table, const Table& more) { table.insert(table.end(), more.begin(), more.end()); }
 
 Table FileItems() {

@@ -6,6 +6,7 @@
 #include <QMenuBar>
 #include <algorithm>
 #include <stdexcept>
+#include <utility>
 
 #include "forms/qt/window.h"
 
@@ -14,6 +15,24 @@ bool HasChildren(const std::vector<MenuItem>& table, const QString& name) {
     return std::any_of(table.begin(), table.end(), [&](const MenuItem& item) { return item.parent == name; });
 }
 }  // namespace
+
+MenuItem Without(const char* name, const char* caption, const char* parent) {
+    return {QString::fromLatin1(name), QString::fromLatin1(caption), QString::fromLatin1(parent)};
+}
+
+MenuItem With(const char* name, const char* caption, const char* parent, std::function<void()> command,
+              const QKeySequence& shortcut) {
+    MenuItem item = Without(name, caption, parent);
+    item.command = std::move(command);
+    item.shortcut = shortcut;
+    return item;
+}
+
+MenuItem Check(const char* name, const char* caption, const char* parent, std::function<void()> command) {
+    MenuItem item = With(name, caption, parent, std::move(command));
+    item.checkable = true;
+    return item;
+}
 
 void Menus::build(QMenuBar* bar, const std::vector<MenuItem>& table) {
     for (const MenuItem& item : table) {

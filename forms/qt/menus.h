@@ -20,6 +20,14 @@ struct MenuItem {
     QKeySequence shortcut = {};
 };
 
+/// A row that opens a submenu, or has no command and never will: it is shown, disabled.
+MenuItem Without(const char* name, const char* caption, const char* parent);
+/// A row that runs a command.
+MenuItem With(const char* name, const char* caption, const char* parent, std::function<void()> command,
+              const QKeySequence& shortcut = {});
+/// A row that runs a command and carries a check mark.
+MenuItem Check(const char* name, const char* caption, const char* parent, std::function<void()> command);
+
 /// The items of one window by their names.
 class Menus {
   public:
