@@ -18,13 +18,13 @@ constexpr int LastListedYear = 2020;
 
 std::size_t At(int group) { return static_cast<std::size_t>(group); }
 
-/// A box with a list that also takes typed text, without completing it.
-QComboBox* EditableBox(const char* name, int group, const QString& spoken) {
+/// A box with a list that also takes typed text, without completing it; never too narrow for so many characters.
+QComboBox* EditableBox(const char* name, int group, const QString& spoken, int characters) {
     auto* box = Named(new QComboBox, ElementName(name, group), spoken);
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
-    box->setMinimumContentsLength(4);
+    box->setMinimumContentsLength(characters);
     return box;
 }
 
@@ -66,9 +66,9 @@ frmDateDiff::frmDateDiff() : Window("frmDateDiff", QStringLiteral("Date Differen
 
 void frmDateDiff::makeGroup(int group) {
     const QString which = group == 0 ? QStringLiteral("Start ") : QStringLiteral("End ");
-    QComboBox* month = cmbMonth[At(group)] = EditableBox("cmbMonth", group, which + QStringLiteral("month"));
-    QComboBox* day = cmbDay[At(group)] = EditableBox("cmbDay", group, which + QStringLiteral("day"));
-    QComboBox* year = cmbYear[At(group)] = EditableBox("cmbYear", group, which + QStringLiteral("year"));
+    QComboBox* month = cmbMonth[At(group)] = EditableBox("cmbMonth", group, which + QStringLiteral("month"), 9);
+    QComboBox* day = cmbDay[At(group)] = EditableBox("cmbDay", group, which + QStringLiteral("day"), 2);
+    QComboBox* year = cmbYear[At(group)] = EditableBox("cmbYear", group, which + QStringLiteral("year"), 4);
     for (int m = 1; m <= 12; ++m) month->addItem(FromText(MonthName(m)));
     AddNumbers(day, 1, 31);
     AddNumbers(year, FirstListedYear, LastListedYear);
