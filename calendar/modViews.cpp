@@ -1,6 +1,8 @@
 // The three calendar views: which months they show, and the order in which a view is drawn and filled.
 #include "calendar/modViews.h"
 
+#include <algorithm>
+
 #include "base/clock.h"
 #include "base/state.h"
 #include "calendar/modCalendar.h"
@@ -175,6 +177,7 @@ void DrawOneMonth(Date first) {
 // -- Six months and a year ------------------------------------------------------------------------------------------
 
 void DrawSixMonths(Date first) {
+    first = std::min(first, MakeDate(LastYear, 7, 1));  // no year follows the last one
     BeginView(6, first);
     DrawSmallMonths(3, Today());
     LoadThisYear();

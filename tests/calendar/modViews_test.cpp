@@ -197,4 +197,11 @@ TEST_F(Views, EndsOfTheCalendarAreReported) {
     EXPECT_EQ(DisplayedYear, 9999);
     EXPECT_EQ(caption, "Tasmoro: 9999 Calendar");
 }
+
+TEST_F(Views, SixMonthsNeverReachBeyondTheLastYear) {
+    show(6, 9999, 11, 5);
+    EXPECT_EQ(ShownMonths.front().month, 6);
+    EXPECT_EQ(ShownMonths.back().year, 9999);
+    EXPECT_EQ(SelectedDate, MakeDate(9999, 11, 5));
+}
 }  // namespace
