@@ -9,6 +9,7 @@
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
 #include "marks/modCategories.h"
+#include "marks/modIcons.h"
 #include "marks/modSaveChanges.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
@@ -75,7 +76,10 @@ void ShowViewOfPickers(const char* procedure, int view) {
 }
 
 void OpenNotesOfPickers(const char* procedure) {
-    if (TakePickers(procedure)) DisplayThisNote();
+    const bool inTemplate = TemplateMode;
+    if (!TakePickers(procedure)) return;
+    if (inTemplate && !TemplateMode) ShowCurrentCalendar();  // the template was left at the question
+    DisplayThisNote();
 }
 
 void ShowNumbersOffset(bool offset) {

@@ -16,8 +16,10 @@
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
 #include "forms/qt/text.h"
+#include "marks/modIcons.h"
 #include "marks/modMarks.h"
 #include "marks/modSaveChanges.h"
+#include "notes/frmNotes.h"
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "tests/support/calendar.h"
@@ -252,6 +254,18 @@ TEST_F(MainWindowTest, CancelAtTheSaveChangesPromptKeepsEverything) {
     QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
     EXPECT_EQ(CalendarView, 1);
     EXPECT_TRUE(window_->close());
+}
+
+TEST_F(MainWindowTest, TheTemplateGoesFromTheScreenWhenItIsLeftForANote) {
+    dialogs_.expect("ReadIconTags");  // no palette here
+    dialogs_.expect("Click and Drag the Icons");
+    CreateOrModifyTemplate();
+    IconsChanged = true;
+    dialogs_.expect("Do you want to save those changes?", Answer::No);
+    QTest::mouseClick(window_->imgOpt[1], Qt::LeftButton);
+    EXPECT_FALSE(TemplateMode);
+    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Nov 2026 Calendar"));
+    EXPECT_NE(OpenedWindow<frmNotes>(), nullptr);
 }
 
 TEST_F(MainWindowTest, VersionIsTold) {
