@@ -39,9 +39,7 @@ bool frmMonth::labelsAreSeen() {
 void frmMonth::showLabels() {
     for (std::size_t i = 0; i < lblTTT.size(); ++i) {
         const bool used = i < DayLabels.labels.size();
-        const QString caption = used ? FromText(CaptionOf(DayLabels.labels[i])) : QString();
-        lblTTT[i]->setText(caption);
-        lblTTT[i]->setToolTip(caption.toHtmlEscaped());
+        ShowFitting(lblTTT[i], used ? FromText(CaptionOf(DayLabels.labels[i])) : QString());
         QPalette colors;
         if (used) colors.setColor(QPalette::WindowText, FromColor(DayLabels.labels[i].color));
         lblTTT[i]->setPalette(colors);
@@ -99,6 +97,7 @@ void frmMonth::layOutLeftPanel() {
     for (int i = 0; i < 36; ++i)
         lblTTT[static_cast<std::size_t>(i)]->setGeometry(4, scaled(LabelPitch * i), picTTT->width() - 8,
                                                          scaled(LabelPitch));
+    showLabels();
     VScroll1->setValue(0);
     VScroll1_Change(0);
 }

@@ -72,11 +72,7 @@ void ToDoPanel::placeItems() {
 }
 
 void ToDoPanel::showText(int item) {
-    QLabel* label = lblToDo[static_cast<std::size_t>(item)];
-    const QString text = FromText(ToDo.panelTexts[RowOf(item)]);
-    const QString fitting = fontMetrics().elidedText(text, Qt::ElideRight, label->width());
-    label->setText(fitting);
-    label->setToolTip(fitting == text ? QString() : text);
+    ShowFitting(lblToDo[static_cast<std::size_t>(item)], FromText(ToDo.panelTexts[RowOf(item)]));
 }
 
 void ToDoPanel::refresh() {

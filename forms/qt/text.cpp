@@ -1,6 +1,8 @@
 // Between Unicode and Windows-1252, through the full table.
 #include "forms/qt/text.h"
 
+#include <QLabel>
+
 #include "base/dialogs.h"
 #include "base/text.h"
 
@@ -42,3 +44,9 @@ std::optional<std::string> TextToSave(const QString& typed) {
 }
 
 QString FromPath(const std::string& utf8) { return QString::fromStdString(utf8); }
+
+void ShowFitting(QLabel* label, const QString& text) {
+    const QString fitting = label->fontMetrics().elidedText(text, Qt::ElideRight, label->width());
+    label->setText(fitting);
+    label->setToolTip(fitting == text ? QString() : text.toHtmlEscaped());
+}

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class QLabel;
+
 QString FromText(std::string_view text);
 
 /// What the code page does not have becomes "?". For what is looked up or shown, never for what is saved.
@@ -16,3 +18,6 @@ std::string ToText(const QString& shown);
 std::optional<std::string> TextToSave(const QString& typed);
 
 QString FromPath(const std::string& utf8);
+
+/// Shows as much of the text on the label as fits its width; where that is not all, the whole text is its tool tip.
+void ShowFitting(QLabel* label, const QString& text);
