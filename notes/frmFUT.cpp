@@ -143,7 +143,7 @@ void frmFUT::layOut() {
 // -- Showing --------------------------------------------------------------------------------------------------------
 
 void frmFUT::showTerms() {
-    const QString name = FromText(TermsListName(CurrentTermsFile));
+    const QString name = FromText(TermsListName(Terms.file));
     setWindowTitle(name.isEmpty() ? QStringLiteral("Frequent Terms") : name);
     cmdOpt[2]->setText(FromText(AutoCompleteCaption()));
     const bool wasChoosing = lstMoreFUT->isVisibleTo(this);
@@ -152,6 +152,7 @@ void frmFUT::showTerms() {
     for (const char* menu : {"mnuFile", "mnuFileDelete"}) menus_.enable(QString::fromLatin1(menu), !Terms.choosing);
     if (!Terms.choosing) {
         ShowEntries(lstFUT, Terms.listed);
+        lstFUT->clearSelection();  // another term may have come to stand in the row
         return;
     }
     ShowEntries(lstMoreFUT, Terms.files);
@@ -174,7 +175,7 @@ void frmFUT::place() {
 
 void frmFUT::rememberPlace() {
     if (isMinimized() || !isVisible()) return;
-    const QRect now = geometry();
+    const QRect now(pos(), size());
     Preferences.termsPlace = {static_cast<float>(Twips(now.left())), static_cast<float>(Twips(now.top())),
                               static_cast<float>(Twips(now.width())), static_cast<float>(Twips(now.height()))};
 }
@@ -189,6 +190,7 @@ void frmFUT::tellTooSmall() {
 
 std::vector<std::string> frmFUT::selectedTerms() const {
     std::vector<std::string> terms;
+    if (Terms.choosing) return terms;  // what is selected cannot be seen
     for (int row = 0; row < lstFUT->count(); ++row)
         if (lstFUT->item(row)->isSelected()) terms.push_back(EntryAt(lstFUT, row));
     return terms;
@@ -272,7 +274,10 @@ void frmFUT::moveEvent(QMoveEvent* event) {
     rememberPlace();
 }
 
-void frmFUT::unload() { TermsWindowOpen = false; }
+void frmFUT::unload() {
+    rememberPlace();
+    TermsWindowOpen = false;
+}
 
 // -- Opening --------------------------------------------------------------------------------------------------------
 

@@ -35,7 +35,13 @@ std::vector<std::string> TermsFiles() {
     return names;
 }
 
+/// The preferences may have named another list since this one was read: commands are about the list that is shown.
+void KeepToShownList() {
+    if (!Terms.file.empty()) CurrentTermsFile = Terms.file;
+}
+
 void ListFiles() {
+    KeepToShownList();
     Terms.files = TermsFiles();
     const auto current = std::find_if(Terms.files.begin(), Terms.files.end(),
                                       [](const auto& name) { return EqualIgnoringCase(name, CurrentTermsFile); });
@@ -69,17 +75,18 @@ std::string Joined(const std::vector<std::string>& terms) {
     return bytes;
 }
 
-/// Every change of the list goes to the file at once, and comes back from it.
-void SaveAndRead() {
-    SaveFrequentlyUsedTerms();
+/// Every change of the list goes to the file at once, and comes back from it. False if it was not saved.
+bool SaveAndRead() {
+    const bool saved = SaveFrequentlyUsedTerms();
     ReadFrequentlyUsedTerms();
+    return saved;
 }
 
 void Open(const std::string& file) {
     CurrentTermsFile = file;
     Terms.choosing = false;
     ReadFrequentlyUsedTerms();
-    ListFiles();
+    Reporting("ShowTermsFiles", ListFiles);
 }
 }  // namespace
 
@@ -113,8 +120,7 @@ bool SaveFrequentlyUsedTerms() {
         return false;
     }
     return Reporting("SaveFrequentlyUsedTerms", [] {
-        // The preferences may have named another list since this one was read: these terms belong to their own file.
-        if (!Terms.file.empty()) CurrentTermsFile = Terms.file;
+        KeepToShownList();
         if (CurrentTermsFile.empty()) throw Error(FileNotFound);
         if (IllegalFileName(TermsListName(CurrentTermsFile))) throw Error(PathFileAccess);
         TellOfBackup(SaveDataFile(DataPath(CurrentTermsFile), Joined(Terms.listed)));
@@ -166,7 +172,7 @@ bool CreateNewFUTFile() {
 }
 
 void ShowTermsFiles() {
-    ListFiles();
+    if (!Reporting("ShowTermsFiles", ListFiles)) return;
     if (Terms.files.empty()) {
         ShowMessage("No file exists.");
         return;
@@ -183,13 +189,13 @@ void ChooseTermsFile(int index) {
 }
 
 void NextTermsFile() {
-    ListFiles();
-    if (Terms.files.empty()) return;
+    if (!Reporting("NextTermsFile", ListFiles) || Terms.files.empty()) return;
     Open(Terms.files[static_cast<std::size_t>(Terms.fileIndex + 1) % Terms.files.size()]);
 }
 
 void DeleteTermsFile() {
     Reporting("DeleteTermsFile", [] {
+        KeepToShownList();
         if (TermsFiles().empty()) {
             ShowMessage("No file to delete.");
             return;
@@ -207,6 +213,7 @@ void DeleteTermsFile() {
 }
 
 void MakeTermsFileDefault() {
+    KeepToShownList();
     if (CurrentTermsFile.empty())
         ShowMessage("File not found.");
     else
@@ -222,11 +229,9 @@ bool AddTerms(std::string_view text) {
         InsertInListOrder(Terms.listed, std::string(Trimmed(line)));
         added = true;
     }
-    if (added)
-        SaveAndRead();
-    else
-        ShowMessage("No term has been added to save.");
-    return added;
+    if (added) return SaveAndRead();
+    ShowMessage("No term has been added to save.");
+    return false;
 }
 
 bool ChangeTerm(const std::string& term, std::string_view text) {

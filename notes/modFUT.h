@@ -74,9 +74,10 @@ void MakeTermsFileDefault();
 // -- Terms ------------------------------------------------------------------------------------------------------------
 // Each change is saved and read back. What is saved must hold only characters of the files.
 
-/// Adds each line of the text as a term, without the blanks around it. False, after a message, if there is none.
+/// Adds each line of the text as a term, without the blanks around it. False, after a message, if there is none or it
+/// could not be saved.
 bool AddTerms(std::string_view text);
-/// Puts the text in the place of a term. False, after a message, for an empty text.
+/// Puts the text in the place of a term. False, after a message, for an empty text or if it could not be saved.
 bool ChangeTerm(const std::string& term, std::string_view text);
 /// Removes these terms.
 void RemoveTerms(const std::vector<std::string>& terms);

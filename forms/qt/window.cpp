@@ -97,14 +97,24 @@ void CenterOnScreen(QWidget* window) {
                  screen.top() + (screen.height() - window->height()) / 2);
 }
 
+namespace {
+/// What a frame adds to a window's size: the main window's stands for all, a new one is not known before it is shown.
+QSize FrameAround() {
+    const QWidget* main = MainWindow();
+    return main == nullptr ? QSize(0, 0) : main->frameGeometry().size() - main->geometry().size();
+}
+}  // namespace
+
 void PlaceOnScreens(QWidget* window, QRect wanted) {
     const QScreen* screen = QApplication::screenAt(wanted.center());
     if (screen == nullptr) screen = QApplication::primaryScreen();
-    const QRect room = screen->availableGeometry();
+    const QRect all = screen->availableGeometry();
+    const QRect room(all.topLeft(), all.size() - FrameAround());
     wanted.setSize(wanted.size().boundedTo(room.size()));
     wanted.moveLeft(std::clamp(wanted.left(), room.left(), room.right() - wanted.width() + 1));
     wanted.moveTop(std::clamp(wanted.top(), room.top(), room.bottom() - wanted.height() + 1));
-    window->setGeometry(wanted);
+    window->resize(wanted.size());
+    window->move(wanted.topLeft());
 }
 
 QString ElementName(const char* name, int index) {

@@ -57,7 +57,8 @@ void UnloadAllWindows(const QWidget* but = nullptr);
 void MakeMeTopmost(QWidget* window);
 void CenterOnScreen(QWidget* window);
 
-/// Moves a window that would open where no screen is to where it can be seen, and shrinks one larger than its screen.
+/// Places a window, its frame's corner at the place's; one that would open where no screen is comes to where it can be
+/// seen, and one larger than its screen shrinks.
 void PlaceOnScreens(QWidget* window, QRect wanted);
 
 /// Gives a control the name it is known by, and the name that assistive programs speak (its caption if empty).

@@ -3,8 +3,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QTest>
 
+#include "base/diskio.h"
 #include "calendar/modCalendar.h"
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"
@@ -48,20 +50,27 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     boxes.expect("\u4E2D");
     add->cmdSave->click();
     add->txtAddFUT->setPlainText(QStringLiteral("plumber\n electrician "));
+    select(1);
     add->cmdSave->click();
     EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber\r\nvet");
     EXPECT_EQ(window->lstFUT->count(), 4);
-    select(-1);
-    window->lstFUT->clearSelection();
-    boxes.expect("Nothing selected to edit.");
+    boxes.expect("Nothing selected to edit.");  // another term stands in the row that was selected
     window->cmdOpt[1]->click();
-    boxes.expect("Nothing selected to remove.");
+    select(3);
+    ShowTermsFiles();
+    boxes.expect("Nothing selected to remove.");  // while the terms cannot be seen
     window->cmdOpt[3]->click();
+    ChooseTermsFile(0);
     select(3);
     window->cmdOpt[1]->click();
     auto* edit = OpenedWindow<frmEditFUT>();
     EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
     edit->txtEditFUT->setText(QStringLiteral("animal doctor"));
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    boxes.expect("SaveFrequentlyUsedTerms");
+    edit->cmdSave->click();
+    SetDisk({});
+    EXPECT_EQ(OpenedWindow<frmEditFUT>(), edit);  // what was typed is still there
     edit->cmdSave->click();
     select(1);
     window->cmdOpt[3]->click();
@@ -102,7 +111,8 @@ TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
 
 TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     folder.put("UserPreferences.txt", "");
-    window->setGeometry(50, 60, 220, 440);
+    window->move(50, 60);
+    window->resize(220, 440);
     window->item(QStringLiteral("mnuWindowSavePosition"))->trigger();
     EXPECT_NE(folder.get("UserPreferences.txt").find("FUT Position:Left=750:Top=900:Width=3300:Height=6600"),
               std::string::npos);
@@ -113,6 +123,20 @@ TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     window = OpenedWindow<frmFUT>();
     EXPECT_TRUE(window->isMinimized());
     EXPECT_TRUE(window->screen()->geometry().contains(window->geometry()));
+    // The place that is kept is the one it opens at again, frame and all.
+    window->showNormal();
+    for (int opening = 0; opening < 3; ++opening) {
+        CloseTermsWindow();
+        window = LoadedWindow<frmFUT>();
+        const TermsPlace kept = opening == 0 ? TermsPlace{750, 900, 3300, 6600} : Preferences.termsPlace;
+        PlaceOnScreens(window, {Pixels(kept.left), Pixels(kept.top), Pixels(kept.width), Pixels(kept.height)});
+        MakeMeTopmost(window);
+        QApplication::processEvents();
+        window->item(QStringLiteral("mnuWindowSavePosition"))->trigger();
+        EXPECT_NE(folder.get("UserPreferences.txt").find("FUT Position:Left=750:Top=900:Width=3300:Height=6600"),
+                  std::string::npos)
+            << Preferences.termsPlace.left << " " << Preferences.termsPlace.top;
+    }
     OpenTermsWindow();
     EXPECT_FALSE(window->isMinimized());
 }

@@ -119,6 +119,13 @@ TEST_F(TermsTest, GoBackToTheirOwnFileWhateverThePreferencesNameMeanwhile) {
     EXPECT_TRUE(AddTerms("electrician"));
     EXPECT_EQ(folder.get("Work.fut"), "budget");
     EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician");
+    CurrentTermsFile = "Work.fut";
+    NextTermsFile();  // the one after the list that is shown
+    EXPECT_EQ(lstFUT, std::vector<std::string>{"budget"});
+    CurrentTermsFile = "Home.fut";
+    DeleteTermsFile();
+    EXPECT_FALSE(folder.has("Work.fut"));
+    ReadTermsOnOpening();
     std::filesystem::remove(folder.path() / "Home.fut");  // behind the program's back
     EXPECT_TRUE(AddTerms("plumber"));
     EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber");
