@@ -84,13 +84,16 @@ void frmNotes::showNote(const QString& caption, const std::string& text) {
     setWindowTitle(caption);
     setAccessibleName(caption);
     txtNotes->showNote(text);
-    originalLength_ = txtNotes->length();
-    menus_.enable(QStringLiteral("mnuEdit"), SearchActive);
-    menus_.enable(QStringLiteral("mnuEditSearchAgain"), SearchActive);
+    showSearchState();
     limitWidth();
     ShowWindow<frmNotes>();
     txtNotes->setFocus();
     if (SearchActive) txtNotes->selectPhrase(FromText(SearchPhrase), 0);
+}
+
+void frmNotes::showSearchState() {
+    menus_.enable(QStringLiteral("mnuEdit"), SearchActive);
+    menus_.enable(QStringLiteral("mnuEditSearchAgain"), SearchActive);
 }
 
 void frmNotes::focusText() {
@@ -104,9 +107,7 @@ void frmNotes::limitWidth() {
 
 bool frmNotes::save() {
     const QScopedValueRollback busy(busy_, true);
-    if (!SaveOpenNote()) return false;
-    originalLength_ = txtNotes->length();
-    return true;
+    return SaveOpenNote();
 }
 
 bool frmNotes::queryUnload() {
@@ -131,7 +132,7 @@ void frmNotes::unload() {
 void frmNotes::txtNotes_Change() {
     if (NoteLoading) return;
     // Comparing a long text at every key would be felt; one of another length differs without looking.
-    NotesChanged = txtNotes->length() != originalLength_ || txtNotes->noteText() != FromText(NoteOriginalText);
+    NotesChanged = txtNotes->length() != Notes.originalLength || txtNotes->noteText() != FromText(NoteOriginalText);
 }
 
 void frmNotes::txtNotes_DragDrop() {

@@ -21,6 +21,8 @@ class frmNotes : public Window {
 
     /// Puts a note into the editor and shows it, with the phrase that was searched selected.
     void showNote(const QString& caption, const std::string& text);
+    /// Offers to search again while a search is going on.
+    void showSearchState();
     /// Brings the keyboard back to the text.
     void focusText();
 
@@ -44,8 +46,7 @@ class frmNotes : public Window {
     void mnuEditSearchAgain_Click();
 
     Menus menus_;
-    int originalLength_ = 0;  // of the text as it was shown or last saved
-    bool busy_ = false;       // asking or saving: the window may not close meanwhile
+    bool busy_ = false;  // asking or saving: the window may not close meanwhile
 };
 
 /// Fills the calls through which the notes and the save-changes prompt reach the editor.

@@ -11,6 +11,7 @@
 #include "base/dialogs.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
+#include "notes/frmNotes.h"
 #include "notes/frmPeriod.h"
 #include "notes/modNotes.h"
 #include "notes/modSearch.h"
@@ -90,7 +91,12 @@ void frmSearch::showHistory(const QString& phrase) {
 void frmSearch::cmdSearch_Click() {
     lstResults->clear();
     const QString typed = cmbPhrase->currentText();
-    SearchPhrase = ToText(typed);
+    const std::string phrase = ToText(typed);
+    if (FromText(phrase) != typed.normalized(QString::NormalizationForm_C)) {
+        ShowMessage(SearchReport(0));  // no file holds such characters
+        return;
+    }
+    SearchPhrase = phrase;
     RememberPhrase(SearchPhrase);
     showHistory(typed);
     if (SearchPhrase.empty()) {
@@ -123,4 +129,7 @@ void frmSearch::cmdOpen_Click() {
     });
 }
 
-void frmSearch::unload() { SearchActive = false; }
+void frmSearch::unload() {
+    SearchActive = false;
+    if (auto* notes = OpenedWindow<frmNotes>()) notes->showSearchState();
+}

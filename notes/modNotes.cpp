@@ -62,6 +62,12 @@ void Read(Year slot) {
     });
 }
 
+/// What the editor's text is compared with from now on.
+void SetOriginalText(std::string text) {
+    Notes.originalLength = static_cast<int>(text.size() - std::count(text.begin(), text.end(), '\r'));
+    NoteOriginalText = std::move(text);
+}
+
 // -- Saving ---------------------------------------------------------------------------------------------------------
 
 /// Puts the text in place of whatever the tables hold for the open date: one note, or a new one.
@@ -139,7 +145,7 @@ bool Save(Year slot) {
     if (!text || !MayTurnIntoLineBreaks(*text, "note")) return false;
     StoreText(slot, *text);
     WriteNotes(Notes.years[slot]);
-    NoteOriginalText = *text;
+    SetOriginalText(*text);
     NotesChanged = false;
     return true;
 }
@@ -160,7 +166,7 @@ void OpenEditor(Year slot) {
     NoteLoading = true;
     const auto found = std::find(notes.dates.begin(), notes.dates.end(), SelectedDateText);
     notes.current = found == notes.dates.end() ? -1 : static_cast<int>(found - notes.dates.begin());
-    NoteOriginalText = NoteOf(slot, SelectedDate);
+    SetOriginalText(NoteOf(slot, SelectedDate));
     if (NoteEditor.open) NoteEditor.open("Notes for " + FormatDate(SelectedDate, "mmmm dd, yyyy"), NoteOriginalText);
     NoteLoading = false;
     NotesChanged = false;

@@ -30,7 +30,8 @@ struct NotesState {
     bool deletePending = false;        // the next save writes the tables only and takes no text from the editor
     bool windowOpen = false;
     bool searchActive = false;  // the note was opened by a search, or its window is still open
-    std::string originalText;   // what was put into the editor, lines parted by CR LF
+    std::string originalText;   // what was put into the editor or saved from it last, lines parted by CR LF
+    int originalLength = 0;     // of it, in characters, a line break counting as one
     std::string searchPhrase;   // the phrase searched last
 };
 extern NotesState Notes;

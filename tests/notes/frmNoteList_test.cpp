@@ -98,6 +98,10 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     };
     search("", "No phrase has been entered.");
     search("plumber", "Search Phrase was not found.");
+    folder.put("2026/Notes.dat", Year + "04/01/26:030300:why?\r\n");
+    window->cmbPhrase->setEditText(QStringLiteral("\u4E2D"));  // no file holds it, nor does "?" stand for it
+    boxes.expect("Search Phrase was not found.");
+    window->cmdSearch->click();
     search("vet", "Search Phrase appears on 1 date");
     search("Sam", "Search Phrase appears on 1 date");
     search("lunch", "Search Phrase appears on 2 dates.");
@@ -112,5 +116,6 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     EXPECT_TRUE(editor->item(QStringLiteral("mnuEdit"))->isEnabled());
     window->close();
     EXPECT_FALSE(SearchActive);
+    EXPECT_FALSE(editor->item(QStringLiteral("mnuEditSearchAgain"))->isEnabled());
 }
 }  // namespace

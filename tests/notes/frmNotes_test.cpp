@@ -140,6 +140,13 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     EXPECT_TRUE(NotesChanged);
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(NotesChanged);  // the text is again what was saved
+    type("12");
+    boxes.expect("The Notes have been changed", Answer::Yes);
+    boxes.expect("Notes Saved");
+    AskAboutOpenNote(false);
+    type("\b");
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_FALSE(NotesChanged);  // and again, after another way to save
     box->insertPlainText(QStringLiteral("\u4E2D"));
     boxes.expect("\u4E2D");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
