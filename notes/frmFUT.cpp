@@ -294,6 +294,7 @@ void OpenTermsWindow(bool centred) {
     }
     if (Preferences.minimizeTerms) window->setWindowState(Qt::WindowMinimized);
     MakeMeTopmost(window);
+    if (CurrentTermsFile.empty()) ReadFrequentlyUsedTerms();  // tells that there is no list
 }
 
 void CloseTermsWindow() {

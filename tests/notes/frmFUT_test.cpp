@@ -139,5 +139,9 @@ TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     }
     OpenTermsWindow();
     EXPECT_FALSE(window->isMinimized());
+    CloseTermsWindow();
+    CurrentTermsFile = Preferences.termsFile = "";
+    boxes.expect("File not found.");
+    OpenTermsWindow();
 }
 }  // namespace
