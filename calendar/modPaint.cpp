@@ -33,9 +33,18 @@ constexpr std::array<std::pair<Color, Color>, 17> Contrasts{{
     {0xFFFF00, 0x000000},
 }};
 
-void PaintBox(Canvas& canvas, Cell cell, const std::string& number, Color fill, Color ink) {
+void FillBox(Canvas& canvas, Cell cell, Color fill) {
     canvas.fillBox(cell.column + 0.1, cell.row + 0.85, cell.column + 0.9, cell.row + 1.65, fill);
+}
+
+void PrintInMiddle(Canvas& canvas, Cell cell, const std::string& number, Color ink) {
     CenteredText(canvas, cell.column + 0.5, cell.row + 1, number, Paint.gridFont, ink);
+}
+
+/// A number of the six-month and one-year views that no mark stands behind.
+void PrintSmallNumber(Canvas& canvas, Cell cell, const std::string& number, Color ink) {
+    if (!Paint.numbersOffset || CalendarView != 6) return PrintInMiddle(canvas, cell, number, ink);
+    canvas.text(cell.column + 0.05, cell.row + 1 - canvas.textHeight(Paint.gridFont) / 2, number, Paint.gridFont, ink);
 }
 
 Font NumberFont() { return {"MS Sans Serif", Paint.numbersOffset ? 10.0 : 18.0, true}; }
@@ -80,7 +89,8 @@ void PaintDay(Year slot, Cell cell, int day, Color fill) {
             ReprintNumber(*shown.canvas, cell, std::to_string(day), fill);
             DayPaint.at(static_cast<std::size_t>(day - 1)) = {true, fill};
         } else {
-            PaintBox(*shown.canvas, cell, std::to_string(day), fill == 0 ? White : fill, MarkTextColor);
+            FillBox(*shown.canvas, cell, fill == 0 ? White : fill);
+            PrintInMiddle(*shown.canvas, cell, std::to_string(day), MarkTextColor);
         }
         PaintedColor(shown, cell) = fill;
     }
@@ -91,13 +101,18 @@ void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color) {
     if (Paint.style == DayStyle::Number) {
         PrintNumber(*shown.canvas, cell, number, color);
         DayPaint.at(static_cast<std::size_t>(day - 1)) = {true, color};
-    } else if (Paint.numbersOffset && CalendarView == 6) {
-        shown.canvas->text(cell.column + 0.05, cell.row + 1 - shown.canvas->textHeight(Paint.gridFont) / 2, number,
-                           Paint.gridFont, color);
     } else {
-        CenteredText(*shown.canvas, cell.column + 0.5, cell.row + 1, number, Paint.gridFont, color);
+        PrintSmallNumber(*shown.canvas, cell, number, color);
     }
     PaintedColor(shown, cell) = color;
+}
+
+void DrawToday(ShownMonth& shown, Cell cell, int day, Color fill) {
+    if (fill == 0 || Paint.style == DayStyle::Number) return DrawNumber(shown, cell, day, fill);
+    ContrastColor(fill);
+    FillBox(*shown.canvas, cell, fill);
+    PrintSmallNumber(*shown.canvas, cell, std::to_string(day), MarkTextColor);
+    PaintedColor(shown, cell) = fill;
 }
 
 void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font) {

@@ -59,6 +59,10 @@ void PaintDay(Year slot, Cell cell, int day, Color fill);
 /// view and its template.
 void DrawNumber(ShownMonth& shown, Cell cell, int day, Color color = Black);
 
+/// Shows today's cell on one shown month: its number in the colour, or on a box of the colour. Without a colour (fill
+/// 0) as any other day.
+void DrawToday(ShownMonth& shown, Cell cell, int day, Color fill);
+
 /// Prints the weekdays' first `letters` letters at height `y`.
 void DrawWeekdays(Canvas& canvas, int letters, double y, const Font& font);
 /// Draws the lines between the columns from `top` down, and those above each week row.

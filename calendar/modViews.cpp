@@ -82,7 +82,7 @@ void DrawDays(ShownMonth& shown, Date today) {
     for (int day = 1; day <= days; ++day) {
         const Date date = first + (day - 1);
         if (date == today && TodayShown)
-            PaintDay(shown.slot, CellOf(date), day, MarkerColor[TodaysDateCategory]);
+            DrawToday(shown, CellOf(date), day, MarkerColor[TodaysDateCategory]);
         else
             DrawNumber(shown, CellOf(date), day);
     }

@@ -43,6 +43,13 @@ TEST_F(Views, NumbersOffsetPrintsSmallInTheCorner) {
     EXPECT_TRUE(month(0).has("text 1.05 5.8 '31' MS Sans Serif 10 bold 000000"));
 }
 
+TEST_F(Views, NumbersOffsetMovesTodayInItsBoxToo) {
+    Paint.numbersOffset = true;
+    show(6, 2026, 11, 1);
+    EXPECT_EQ(month(0).containing("'22'"), (std::vector<std::string>{"text 0.05 3.92 '22' MS Sans Serif 8 000000"}));
+    EXPECT_TRUE(month(0).has("fill 0.1 3.85 0.9 4.65 FFFF00"));
+}
+
 TEST_F(Views, TodayIsPaintedWhileShown) {
     FixClock(2026, 11, 23);  // the program was started the day before
     show(12, 2026, 3, 1);
