@@ -51,7 +51,7 @@ void frmHolidays::makeControls() {
     connect(cmdAddNew, &QPushButton::clicked, this, [this] { cmdAddNew_Click(); });
     new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
     // A year that was typed and not loaded would stand over another year's list.
-    new Leaving(cmbYear->lineEdit(), [this] { cmbYear->setEditText(FromText(HolidayList.year)); });
+    new Leaving(cmbYear, [this] { cmbYear->setEditText(FromText(HolidayList.year)); });
 }
 
 void frmHolidays::buildMenus() {

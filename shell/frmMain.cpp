@@ -22,6 +22,7 @@
 #include "calendar/modPaint.h"
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
+#include "forms/qt/leaving.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "marks/modCategories.h"
@@ -116,7 +117,7 @@ QComboBox* frmMain::picker(const QString& name, const QString& spoken, int chara
     box->setToolTip(spoken);
     box->lineEdit()->setObjectName(name + QStringLiteral("_text"));
     box->lineEdit()->setAccessibleName(spoken);
-    box->lineEdit()->installEventFilter(this);
+    box->installEventFilter(this);  // it has the focus: keys are sent to it, not to its line edit
     return box;
 }
 
@@ -130,6 +131,8 @@ void frmMain::buildTopStrip() {
     row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month"), 9));
     row->addWidget(cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day"), 2));
     row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year"), 4));
+    cmbYear->setCompleter(nullptr);  // "20" is 2020, not the first year of the list that begins so
+    new Leaving(cmbYear, [this] { cmbYear_LostFocus(); });
     const std::array<QString, 2> optTips{QStringLiteral("Advance Calendar to Selected Date"),
                                          QStringLiteral("Open Notes for Selected Date")};
     for (std::size_t i = 0; i < 2; ++i) {
@@ -155,6 +158,7 @@ void frmMain::buildTopStrip() {
     }
     row->addSpacing(12);
     row->addWidget(lblTemplate = Label(QStringLiteral("lblTemplate"), QStringLiteral("Template = Standard"), picTop));
+    lblTemplate->hide();
     row->addStretch(1);
     buildIndicators(picTop);
 }
@@ -211,6 +215,9 @@ QWidget* frmMain::makeRightPanel() {
                         "lblBirthdayDate", "Date =");
     connect(lstAlerts, &QListWidget::currentRowChanged, this, &frmMain::lstAlerts_Click);
     connect(lstBirthdays, &QListWidget::currentRowChanged, this, &frmMain::lstBirthdays_Click);
+    // The row that a list keeps while it is filled anew has no date beside it until it is clicked again.
+    connect(lstAlerts, &QListWidget::itemClicked, this, &frmMain::lstAlerts_Click);
+    connect(lstBirthdays, &QListWidget::itemClicked, this, &frmMain::lstBirthdays_Click);
     column->addWidget(Named(new HelpPanel(panel), QStringLiteral("HelpPanel"), QStringLiteral("Help")), 5);
     ShowPendingAlerts = [this] {
         ShowEntries(lstAlerts, PendingAlertEntries);
@@ -427,7 +434,7 @@ void frmMain::unload() {
 // -- Events ---------------------------------------------------------------------------------------------------------
 
 bool frmMain::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::KeyPress && qobject_cast<QLineEdit*>(watched) != nullptr) {
+    if (event->type() == QEvent::KeyPress && qobject_cast<QComboBox*>(watched) != nullptr) {
         const int key = static_cast<QKeyEvent*>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             cmbYear_LostFocus();
@@ -435,7 +442,6 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
             return true;
         }
     }
-    if (event->type() == QEvent::FocusOut && watched == cmbYear->lineEdit()) cmbYear_LostFocus();
     if (event->type() == QEvent::MouseButtonPress && watched == cmdAlert) {
         const auto button = static_cast<QMouseEvent*>(event)->button();
         if (button != Qt::LeftButton) IgnorePendingAlerts();

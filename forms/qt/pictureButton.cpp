@@ -9,7 +9,7 @@ PictureButton::PictureButton(Picture picture, const QString& tip, QWidget* paren
     : QAbstractButton(parent), picture_(picture) {
     setToolTip(tip);
     setAccessibleName(tip);
-    setFocusPolicy(Qt::StrongFocus);
+    setFocusPolicy(Qt::TabFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
 }
 

@@ -5,7 +5,8 @@
 
 #include "forms/qt/pictures.h"
 
-/// Reached by Tab and pressed by the space bar like any button. Its tip is also what assistive programs speak.
+/// Reached by Tab and pressed by the space bar like any button; a click leaves the focus where it is. Its tip is also
+/// what assistive programs speak.
 class PictureButton : public QAbstractButton {
     Q_OBJECT
 

@@ -52,6 +52,11 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
     window->cmdSave->click();
     EXPECT_EQ(Text(window->lstHolidays, 0), QStringLiteral("01/01/26:New Year"));
     window->cmbYear->setEditText(QStringLiteral("2031"));
+    QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
+    QCoreApplication::sendEvent(window->cmbYear, &left);
+    QTest::qWait(1);
+    EXPECT_EQ(window->cmbYear->currentText(), QStringLiteral("2026")) << "the year whose list is shown";
+    window->cmbYear->setEditText(QStringLiteral("2031"));
     window->menus[QStringLiteral("mnuFileNew")]->trigger();
     EXPECT_EQ(window->lstHolidays->count(), 0);
     window->cmdDelete->click();  // nothing to remove

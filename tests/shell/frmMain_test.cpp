@@ -152,17 +152,34 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
 
 TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
     pick("March", "9", "9");
-    QTest::keyClick(window_->cmbYear->lineEdit(), Qt::Key_Return);
+    QTest::keyClick(window_->cmbYear, Qt::Key_Return);  // the box takes the keys, not its line edit
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2009"));
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2009 Calendar"));
     pick("February", "30", "2009");
     dialogs_.expect("Type mismatch");
-    QTest::keyClick(window_->cmbDay->lineEdit(), Qt::Key_Return);
+    QTest::keyClick(window_->cmbDay, Qt::Key_Return);
     EXPECT_EQ(SelectedDate, MakeDate(2009, 3, 9));
     pick("July", "1", "1900");
     QTest::mouseClick(window_->imgOpt[0], Qt::LeftButton);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 1900 Calendar"));
     EXPECT_FALSE(window_->cmbMonth->lineEdit()->hasSelectedText());
+}
+
+TEST_F(MainWindowTest, TheYearIsCompletedWhenItsBoxIsLeft) {
+    window_->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(window_));
+    for (const auto& [typed, completed] : {std::pair{"9", "2009"}, std::pair{"20", "2020"}, std::pair{"2031", "2031"},
+                                           std::pair{"abc", "abc"}, std::pair{"99", "1999"}}) {
+        window_->cmbYear->setFocus();
+        window_->cmbYear->lineEdit()->selectAll();
+        QTest::keyClicks(QApplication::focusWidget(), QString::fromLatin1(typed));
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        QTest::qWait(1);
+        EXPECT_EQ(window_->cmbYear->currentText(), QString::fromLatin1(completed)) << typed;
+    }
+    OpenedWindow<frmYear>()->setFocus();
+    QTest::mouseClick(window_->imgCal[2], Qt::LeftButton);
+    EXPECT_EQ(QApplication::focusWidget(), OpenedWindow<frmYear>()) << "a picture that is clicked takes no keys away";
 }
 
 TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
@@ -239,6 +256,11 @@ TEST_F(MainWindowTest, ResizingReadsNoFile) {
 TEST_F(MainWindowTest, AlertsCanBeIgnored) {
     EXPECT_EQ(window_->lstAlerts->item(0)->text(), QStringLiteral("Order the cake"));
     window_->lstAlerts->setCurrentRow(0);
+    EXPECT_EQ(window_->lblAlertDate->text(), QStringLiteral("Alert Date = 11/24/26"));
+    FillPendingAlertList();  // after a save, say: the row stays, its date goes
+    EXPECT_EQ(window_->lblAlertDate->text(), QStringLiteral("Alert Date ="));
+    QTest::mouseClick(window_->lstAlerts->viewport(), Qt::LeftButton, {},
+                      window_->lstAlerts->visualItemRect(window_->lstAlerts->item(0)).center());
     EXPECT_EQ(window_->lblAlertDate->text(), QStringLiteral("Alert Date = 11/24/26"));
     QTest::mouseClick(window_->cmdAlert, Qt::RightButton);
     EXPECT_EQ(window_->cmdAlert->text(), QStringLiteral("Alerts Ignored"));
