@@ -9,6 +9,7 @@
 #include "calendar/modSelection.h"
 #include "calendar/modShell.h"
 #include "forms/qt/text.h"
+#include "notes/modNotes.h"
 
 MonthPicture::MonthPicture(QWidget* parent, int index) : PictureBox(parent), index_(index) {
     setFocusPolicy(Qt::NoFocus);
@@ -19,31 +20,40 @@ const ShownMonth* MonthPicture::shown() const {
     return index < ShownMonths.size() ? &ShownMonths[index] : nullptr;
 }
 
-void MonthPicture::showSelection() {
+bool MonthPicture::holdsSelection() const {
     const ShownMonth* month = shown();
-    const bool here = month != nullptr && SelectedCell.month == month->month && HasDate(month->year, SelectedCell) &&
-                      DateAt(*month, SelectedCell) == SelectedDate;
-    setFrame(here ? QRectF(SelectedCell.column, SelectedCell.row + 0.75, 1, 1) : QRectF());
+    return month != nullptr && SelectedCell.month == month->month && HasDate(month->year, SelectedCell) &&
+           DateAt(*month, SelectedCell) == SelectedDate;
+}
+
+void MonthPicture::showSelection() {
+    setFrame(holdsSelection() ? QRectF(SelectedCell.column, SelectedCell.row + 0.75, 1, 1) : QRectF());
 }
 
 void MonthPicture::mousePressEvent(QMouseEvent* event) {
     if (const ShownMonth* month = shown()) {
         const QPointF point = toScale(event->position());
-        const bool day = SelectAt(*month, point.x(), point.y());
+        const bool forMenu = event->button() == Qt::RightButton;
+        const bool day = (forMenu ? SelectForMenu : SelectAt)(*month, point.x(), point.y());
         Q_EMIT selected();
-        if (day && event->button() == Qt::RightButton) {
-            Tell(Shell.enableItem, "mnuOptDateRemoveIcon", false);
-            ShowHover(HoverAt(*month, point.x(), point.y()));
-            Tell(Shell.popUpDateOptions);
-        }
+        const QPoint place = event->globalPosition().toPoint();
+        if (day && forMenu) Tell(Shell.popUpDateOptions, place.x(), place.y());
     }
     PictureBox::mousePressEvent(event);
+}
+
+void MonthPicture::openMenuOfSelection() {
+    const ShownMonth* month = shown();
+    if (month == nullptr || !SelectForMenu(*month, SelectedCell.column + 0.5, SelectedCell.row + 1.25)) return;
+    const QRect cell = fromScale(QRectF(SelectedCell.column, SelectedCell.row + 0.75, 1, 1));
+    const QPoint place = mapToGlobal(cell.center());
+    Tell(Shell.popUpDateOptions, place.x(), place.y());
 }
 
 void MonthPicture::mouseMoveEvent(QMouseEvent* event) {
     const ShownMonth* month = shown();
     const QPoint point = event->position().toPoint();
-    if (month != nullptr && point != lastPoint_) {
+    if (month != nullptr && !NotesWindowOpen && point != lastPoint_) {
         lastPoint_ = point;
         const QPointF place = toScale(event->position());
         ShowHover(HoverAt(*month, place.x(), place.y()));
@@ -71,7 +81,7 @@ bool MonthPicture::event(QEvent* event) {
 
 void MonthPicture::showToolTip(QHelpEvent* event) {
     const ShownMonth* month = shown();
-    if (month == nullptr) return;
+    if (month == nullptr || NotesWindowOpen) return;
     const QPointF point = toScale(event->pos());
     const Hover hover = HoverAt(*month, point.x(), point.y());
     if (hover.text.empty()) {

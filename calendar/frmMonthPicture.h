@@ -11,8 +11,12 @@ class MonthPicture : public PictureBox {
     /// `index`: the month's place in the list of shown months.
     MonthPicture(QWidget* parent, int index);
 
+    /// True if the selected date lies in this month.
+    bool holdsSelection() const;
     /// Frames the selected cell if it lies in this month.
     void showSelection();
+    /// Opens the "Date Options" menu of the selected date, which lies in this month, beside its number.
+    void openMenuOfSelection();
 
   Q_SIGNALS:
     /// A day was selected, by pointer or key.

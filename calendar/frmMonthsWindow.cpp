@@ -136,7 +136,11 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
             OpenNoteOfPickers();
             return;
         case Qt::Key_Menu:
-            Tell(Shell.popUpDateOptions);
+            openDateMenu();
+            return;
+        case Qt::Key_F10:
+            if (event->modifiers() != Qt::ShiftModifier) break;
+            openDateMenu();
             return;
         case Qt::Key_Escape:
             if (view_ != 12) {
@@ -148,6 +152,11 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
             break;
     }
     Window::keyPressEvent(event);
+}
+
+void MonthsWindow::openDateMenu() {
+    for (auto* month : pictures_)
+        if (month->holdsSelection()) return month->openMenuOfSelection();
 }
 
 bool MonthsWindow::moveSelection(int key) {

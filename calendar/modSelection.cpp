@@ -102,6 +102,13 @@ bool SelectAt(const ShownMonth& shown, double x, double y) {
     return true;
 }
 
+bool SelectForMenu(const ShownMonth& shown, double x, double y) {
+    if (!SelectAt(shown, x, y)) return false;
+    Tell(Shell.enableItem, "mnuOptDateRemoveIcon", false);
+    ShowHover(HoverAt(shown, x, y));
+    return true;
+}
+
 Hover HoverAt(const ShownMonth& shown, double x, double y) {
     Hover hover;
     hover.cell = CellAtPoint(shown.month, x, y);

@@ -10,6 +10,9 @@
 /// day.
 bool SelectAt(const ShownMonth& shown, double x, double y);
 
+/// Selects the day at a point and readies the items of its "Date Options" menu. True for a day: the menu may open.
+bool SelectForMenu(const ShownMonth& shown, double x, double y);
+
 /// Enables of "Quick Mark" and "Clear Mark" the one that the cell calls for: it carries a mark or does not.
 void EnableMarkItems(Year slot, Cell cell);
 

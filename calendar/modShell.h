@@ -34,8 +34,8 @@ struct ShellCalls {
     std::function<void(int index, const std::string& caption)> captionMonth;
     /// Shows or hides the month's navigation buttons and left panel; both are hidden in template mode.
     std::function<void(bool templateMode)> layOutMonth;
-    /// Opens the "Date Options" menu at the pointer.
-    std::function<void()> popUpDateOptions;
+    /// Opens the "Date Options" menu at a point of the screen, in its pixels.
+    std::function<void(int x, int y)> popUpDateOptions;
 };
 extern ShellCalls Shell;
 

@@ -138,11 +138,10 @@ void PlacedIcons::picIcon_MouseDown(int index, QMouseEvent* event) {
     if (event->button() != Qt::RightButton || ShownMonths.empty()) return;
     // The menu's other commands mean the day that the icon stands on.
     const QPointF point = picMonth->toScale(placeOf(index).center());
-    SelectAt(ShownMonths.front(), point.x(), point.y());
-    ShowHover(HoverAt(ShownMonths.front(), point.x(), point.y()));
+    SelectForMenu(ShownMonths.front(), point.x(), point.y());
     Q_EMIT selected();
     Tell(Shell.enableItem, "mnuOptDateRemoveIcon", true);
-    Tell(Shell.popUpDateOptions);
+    Tell(Shell.popUpDateOptions, pressedAt_.x(), pressedAt_.y());
 }
 
 void PlacedIcons::mouseMoveEvent(QMouseEvent* event) {

@@ -320,7 +320,9 @@ void frmMain::fillShellCalls() {
     Shell.layOutMonth = [](bool templateMode) {
         if (auto* month = OpenedWindow<frmMonth>()) month->setTemplateMode(templateMode);
     };
-    Shell.popUpDateOptions = [this] { menus_.menu(QStringLiteral("mnuDateOptions"))->popup(QCursor::pos()); };
+    Shell.popUpDateOptions = [this](int x, int y) {
+        menus_.menu(QStringLiteral("mnuDateOptions"))->popup(QPoint(x, y));
+    };
 }
 
 void frmMain::fillReminderHooks() {

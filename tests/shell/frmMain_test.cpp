@@ -20,6 +20,7 @@
 #include "marks/modMarks.h"
 #include "marks/modSaveChanges.h"
 #include "notes/frmNotes.h"
+#include "notes/modNotes.h"
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "tests/support/calendar.h"
@@ -207,6 +208,31 @@ TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
         EXPECT_EQ(SelectedDate, date) << FormatDate(date, "m/d");
     }
     EXPECT_EQ(window_->cmbDay->currentText(), QStringLiteral("24"));
+}
+
+TEST_F(MainWindowTest, TheMenuKeyOpensTheMenuOfTheSelectedDay) {
+    QMenu* menu = window_->item(QStringLiteral("mnuDateOptions"))->menu();
+    auto* year = OpenedWindow<frmYear>();
+    for (const auto& [date, marked] :
+         {std::pair{MakeDate(2026, 11, 16), true}, std::pair{MakeDate(2026, 11, 17), false}}) {
+        SelectDate(date);
+        QTest::keyClick(year, Qt::Key_Menu);
+        ASSERT_TRUE(menu->isVisible());
+        EXPECT_TRUE(picture(10)->geometry().contains(picture(10)->parentWidget()->mapFromGlobal(menu->pos())));
+        menu->hide();
+        for (const char* item : {"mnuOptDateAttachHoverText", "mnuOptDateClearMark"})
+            EXPECT_EQ(window_->item(QString::fromLatin1(item))->isEnabled(), marked) << item;
+        EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateQuickMark"))->isEnabled(), !marked);
+    }
+}
+
+TEST_F(MainWindowTest, HoversAreSilentWhileANoteIsOpen) {
+    for (const bool open : {true, false}) {
+        NotesWindowOpen = open;
+        QTest::mouseMove(picture(10), placeOf(picture(10), MakeDate(2026, 11, open ? 16 : 23)));
+        QTest::mouseMove(picture(10), placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(open, 1));
+        EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateAttachHoverText"))->isEnabled(), !open);
+    }
 }
 
 TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {

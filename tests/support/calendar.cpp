@@ -25,7 +25,7 @@ CalendarTest::CalendarTest() {
     Shell.showTemplateLabel = [this](const std::string& text) { templateLabel = text; };
     Shell.pressViewButton = [this](int view) { pressed = view; };
     Shell.captionMonth = [this](int index, const std::string& text) { monthCaptions[index] = text; };
-    Shell.popUpDateOptions = [this] { ++menusOpened; };
+    Shell.popUpDateOptions = [this](int, int) { ++menusOpened; };
     putCategories();
 }
 
