@@ -1,13 +1,13 @@
 // Reading and writing of whole files over the system's own calls, and the guard of unread content.
 #include "base/files.h"
 
+#include <algorithm>
 #include <unordered_map>
 #include <utility>
 
 #include "base/clock.h"
 #include "base/dialogs.h"
 #include "base/diskio.h"
-#include "base/errors.h"
 #include "base/modNoCase.h"
 #include "base/state.h"
 #include "base/text.h"
@@ -71,8 +71,19 @@ void ReadDataLines(const Path& path, const std::function<void(std::string_view, 
     MarkNotFullyRead(path);
     std::string bytes = ReadWholeFile(path);
     int number = 0;
-    for (std::string_view rest = bytes; !rest.empty();) take(TakeLine(rest), ++number);
+    try {
+        for (std::string_view rest = bytes; !rest.empty();) take(TakeLine(rest), ++number);
+    } catch (const Error& error) {
+        throw AtLine(error, path, number);
+    }
     KnownFiles[KeyOf(path)] = std::move(bytes);
+}
+
+Error AtLine(const Error& error, const Path& path, int number) {
+    std::string name = TextOfPath(path.lexically_relative(DataFolder()));
+    std::replace(name.begin(), name.end(), '/', '\\');
+    return {error.number(),
+            std::string(error.what()) + " (line " + std::to_string(number) + " of the file \"" + name + "\")"};
 }
 
 void MarkNotFullyRead(const Path& path) { KnownFiles.erase(KeyOf(path)); }

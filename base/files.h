@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/errors.h"
+
 using Path = std::filesystem::path;
 
 // -- Any file -----------------------------------------------------------------------------------------------------
@@ -56,8 +58,12 @@ inline Path DataPath(std::string_view name) { return PathInFolder(DataFolder(), 
 // -- Data files, guarded ------------------------------------------------------------------------------------------
 
 /// Reads the file and calls `take` with each line and its number (from 1). The file counts as read to its end only
-/// when the last call has returned; an exception of `take` passes through and leaves it counted as not fully read.
+/// when the last call has returned; an exception of `take` passes through and leaves it counted as not fully read. An
+/// Error is thrown on as AtLine makes it.
 void ReadDataLines(const Path& path, const std::function<void(std::string_view line, int number)>& take);
+
+/// The error with the place it came from in its description: 'Type mismatch (line 2 of the file "2009\Notes.dat")'.
+Error AtLine(const Error& error, const Path& path, int number);
 
 /// Marks a file as holding something that the tables do not: a line that was passed over, say.
 void MarkNotFullyRead(const Path& path);

@@ -52,14 +52,7 @@ void Read(Year slot) {
     notes.year = YearOfSlot(slot);
     const Path folder = YearFolder(notes.year);
     if (!FolderExists(DataFolder(), folder.filename().string()) || !FileExists(folder, NotesFile)) return;
-    ReadDataLines(PathInFolder(folder, NotesFile), [&](std::string_view line, int number) {
-        try {
-            TakeLine(slot, line);
-        } catch (const Error& error) {
-            throw Error(error.number(), std::string(error.what()) + " (line " + std::to_string(number) +
-                                            " of the file \"" + folder.filename().string() + "\\" + NotesFile + "\")");
-        }
-    });
+    ReadDataLines(PathInFolder(folder, NotesFile), [slot](std::string_view line, int) { TakeLine(slot, line); });
 }
 
 /// What the editor's text is compared with from now on.

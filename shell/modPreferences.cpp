@@ -114,7 +114,7 @@ const std::array<Line, LineCount> Lines{{
 }};
 
 /// Takes the value of a line (counted from 1) out of the table of lines.
-void TakeLine(std::size_t number) {
+void TakeValue(std::size_t number) {
     if (number > PreferenceLines.size()) throw Error(SubscriptOutOfRange);
     const auto& [key, member] = Lines.at(number - 1);
     const std::string_view value = Middle(PreferenceLines[number - 1], std::string_view(key).size() + 1);
@@ -163,6 +163,14 @@ void SelectDefaultPrinter() {
     } catch (const Error& error) {
         if (error.number() != PrinterFault) throw;
         ShowMessage("Printer error.");
+    }
+}
+
+void TakeLine(std::size_t number) {
+    try {
+        TakeValue(number);
+    } catch (const Error& error) {
+        throw AtLine(error, PreferencesFile(), static_cast<int>(number));
     }
 }
 

@@ -94,7 +94,7 @@ TEST_F(CategoriesTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
         int read;           // categories in effect
     };
     for (const Row& row : std::vector<Row>{{Full + "More:1\r\n", "Number: 9", 14},
-                                           {Full + Full, "Number: 9", 14},
+                                           {Full + Full, "(line 15 of the file \"Marker Colors.dat\")", 14},
                                            {With("Birthday:"), "Number: 13", 4},
                                            {With("Birthday"), "Number: 13", 4},
                                            {With("Birth: day:255"), "Number: 13", 4},

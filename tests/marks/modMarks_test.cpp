@@ -103,7 +103,7 @@ TEST_F(MarksTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
                                            {start + "01:01:06:255", "Number: 9"},
                                            {start + "01:01:-1:255", "Number: 9"},
                                            {start + "01:xx:01:255", "Number: 13"},
-                                           {start + "01:01", "Number: 13"},
+                                           {start + "01:01", "Type mismatch (line 2 of the file \""},
                                            {start + "01:01:01:-text", "Number: 13"},
                                            {start + "01:01:01:16777216", "Number: 6"},
                                            {start + "\r\n01:01:01:255", "Number: 13"},

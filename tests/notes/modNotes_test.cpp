@@ -120,7 +120,7 @@ TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
         folder.put("2026/Notes.dat", before);
         boxes.expect(row.report);
         ReadThisYearsNotes();
-        EXPECT_NE(boxes.shown().back().text.find("line 2 of the file"), std::string::npos);
+        EXPECT_NE(boxes.shown().back().text.find("(line 2 of the file \"2026\\Notes.dat\")"), std::string::npos);
         EXPECT_EQ(NoteCount(), 1);
         SelectDate(MakeDate(2026, 3, 4));
         DisplayThisNote();

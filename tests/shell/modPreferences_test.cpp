@@ -53,12 +53,13 @@ TEST_F(PreferencesTest, ReportFaultsKeepWhatWasReadBeforeAndLoseNothing) {
         int start;  // what the line of the start position gave; 2 is what it was
     };
     for (const Row& row : std::vector<Row>{{With("Auto C", "Auto Complete Word:maybe"), "Number: 13", 2},
-                                           {With("Auto S", "Auto Start Position:4x"), "Number: 13", 2},
+                                           {With("Auto S", "Auto Start Position:4x"),
+                                            "Type mismatch (line 12 of the file \"UserPreferences.txt\")", 2},
                                            {With("Auto S", "Auto Start Position:-1"), "Number: 6", 2},
                                            {With("Auto S", "Auto Start Position:32768"), "Number: 6", 2},
                                            {With("Show", "Show"), "Number: 13", 4},
                                            {std::string(40, '\0'), "Number: 9", 2},
-                                           {"", "Number: 9", 2}}) {
+                                           {"", "Subscript out of range (line 1 of the file", 2}}) {
         SCOPED_TRACE(row.file);
         const TemporaryFolder fresh;
         fresh.put(File, row.file);
