@@ -39,7 +39,9 @@ bool frmMonth::labelsAreSeen() {
 void frmMonth::showLabels() {
     for (std::size_t i = 0; i < lblTTT.size(); ++i) {
         const bool used = i < DayLabels.labels.size();
-        ShowFitting(lblTTT[i], used ? FromText(CaptionOf(DayLabels.labels[i])) : QString());
+        const QString caption = used ? FromText(CaptionOf(DayLabels.labels[i])) : QString();
+        ShowFitting(lblTTT[i], caption);
+        lblTTT[i]->setToolTip(caption.toHtmlEscaped());  // also where all of it is seen
         QPalette colors;
         if (used) colors.setColor(QPalette::WindowText, FromColor(DayLabels.labels[i].color));
         lblTTT[i]->setPalette(colors);

@@ -139,6 +139,8 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(OpenedWindow<frmYear>(), nullptr);
     ASSERT_NE(OpenedWindow<frmMonth>(), nullptr);
+    const auto* label = OpenedWindow<frmMonth>()->findChild<QLabel*>(QStringLiteral("lblTTT(0)"));
+    EXPECT_EQ(label->toolTip(), QStringLiteral("16: Meeting: Dentist"));
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Dec 2026 Calendar"));
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
