@@ -40,6 +40,8 @@ class MainWindowTest : public testing::Test {
     }
     ~MainWindowTest() override {
         UnloadAllWindows();
+        QCoreApplication::sendPostedEvents(nullptr,
+                                           QEvent::DeferredDelete);  // a closed one clears the calls as it goes
         Shell = {};
         AskAboutIcons = {};
     }
