@@ -84,7 +84,7 @@ void ReadToDoList() {
         const bool whole = ReadRows();
         FillPanel();
         if (TaskListOpenRequested) FillWindow();
-        if (!whole) throw Error(SubscriptOutOfRange);
+        if (!whole) throw AtLine(Error(SubscriptOutOfRange), DataPath(FileName), ToDoRows + 1);
     });
 }
 

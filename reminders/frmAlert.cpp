@@ -93,15 +93,17 @@ void frmAlert::makeMessageAndLists() {
 }
 
 void frmAlert::connectControls() {
-    for (QComboBox* box : {cmbMonth, cmbDay, cmbYear})
+    for (QComboBox* box : {cmbMonth, cmbDay, cmbYear}) {
         connect(box, &QComboBox::textActivated, this, [this] { dateChosen(); });
+        connect(box->lineEdit(), &QLineEdit::editingFinished, this, [this] { takeTypedBoxes(); });
+    }
     for (int i = 0; i < static_cast<int>(optValue.size()); ++i)
         connect(optValue[At(i)], &QRadioButton::clicked, this, [this, i] { optValue_Click(i); });
     connect(txtValue, &QLineEdit::textChanged, this, [this] { showPeriodChoice(); });
     for (int element : {1, 2}) {
         QListWidget* list = lstAlerts[At(element)];
-        connect(list, &QListWidget::currentRowChanged, this, &frmAlert::lstAlerts_Click);
-        connect(list, &QListWidget::itemClicked, this, [this, list] { lstAlerts_Click(list->currentRow()); });
+        connect(list, &QListWidget::itemSelectionChanged, this, [this, list] { lstAlerts_Click(SelectedRow(list)); });
+        connect(list, &QListWidget::itemClicked, this, [this, list] { lstAlerts_Click(SelectedRow(list)); });
     }
     for (int i : {0, 1}) connect(cmdSave[At(i)], &QPushButton::clicked, this, [this, i] { cmdSave_Click(i); });
     connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
@@ -219,23 +221,29 @@ void frmAlert::showLists() {
 
 void frmAlert::showEdit() {
     const QSignalBlocker quietValue(txtValue);
-    for (int element : {1, 2}) {
-        const QSignalBlocker quiet(lstAlerts[At(element)]);
-        lstAlerts[At(element)]->setCurrentRow(AddingNewAlert ? -1 : AlertList.selected);
-    }
-    lblMain->setText(FromText(AlertList.heading));
+    showSelected();
     showDate();
     txtValue->setText(FromText(AlertList.edit.period));
     showPeriodChoice();
     txtMessage->setPlainText(FromText(Replaced(AlertList.edit.message, CrLf, "\n")));
 }
 
+void frmAlert::showSelected() {
+    for (int element : {1, 2}) {
+        const QSignalBlocker quiet(lstAlerts[At(element)]);
+        lstAlerts[At(element)]->setCurrentRow(AddingNewAlert ? -1 : AlertList.selected);
+    }
+    lblMain->setText(FromText(AlertList.heading));
+}
+
 void frmAlert::showDate() {
     txtDate->setText(FromText(AlertList.edit.date));
     if (AlertDateTyped(AlertList.edit.date) != AlertList.date) return;  // no date: the boxes stay
-    cmbMonth->setCurrentText(FromText(FormatDate(AlertList.date, "mmmm")));
-    cmbDay->setCurrentText(FromText(FormatDate(AlertList.date, "dd")));
-    cmbYear->setCurrentText(FromText(FormatDate(AlertList.date, "yyyy")));
+    const YearMonthDay day = PartsOf(AlertList.date);
+    ShowChoice(cmbMonth, day.month - 1, FromText(FormatDate(AlertList.date, "mmmm")));
+    ShowChoice(cmbDay, day.day - 1, FromText(FormatDate(AlertList.date, "dd")));
+    const QString year = FromText(FormatDate(AlertList.date, "yyyy"));
+    ShowChoice(cmbYear, cmbYear->findText(year), year);
 }
 
 void frmAlert::showPeriodChoice() {
@@ -266,6 +274,16 @@ void frmAlert::dateChosen() {
     const QString text = cmbMonth->currentText() + QLatin1Char(' ') + cmbDay->currentText() + QStringLiteral(", ") +
                          cmbYear->currentText();
     if (TakeAlertDate(ToText(text))) txtDate->setText(FromText(AlertList.edit.date));
+}
+
+/// A text that was typed into a box counts like a choice from its list, which tells only of texts that it has.
+void frmAlert::takeTypedBoxes() {
+    bool typed = false;
+    for (const QComboBox* box : {cmbMonth, cmbDay, cmbYear}) {
+        typed = typed || box->lineEdit()->isModified();
+        box->lineEdit()->setModified(false);
+    }
+    if (typed) dateChosen();
 }
 
 void frmAlert::txtDate_LostFocus() {
@@ -328,12 +346,16 @@ void frmAlert::proposeNew(Date date) {
 void frmAlert::cmdSave_Click(int index) {
     dateLeft_->cancel();
     periodLeft_->cancel();
+    takeTypedBoxes();
     const auto message = TextToSave(txtMessage->toPlainText());
     if (!message) return focusOn(AlertField::Message);
     const AlertField field =
         SaveAlert({ToText(txtDate->text()), ToText(txtValue->text()), Replaced(*message, "\n", CrLf)});
-    lblMain->setText(FromText(AlertList.heading));
-    if (field != AlertField::Saved) return focusOn(field);
+    if (field != AlertField::Saved) {
+        showLists();  // a failed save has read the file again, which somebody else may have written
+        showSelected();
+        return focusOn(field);
+    }
     showAll();
     if (index == 1) close();
 }
@@ -364,8 +386,10 @@ void frmAlert::unload() { CloseAlertList(); }
 
 void OpenAlertManager(bool pendingOnly) {
     frmAlert* open = OpenedWindow<frmAlert>();
-    if (open == nullptr) ViewPendingAlerts = pendingOnly;
-    if (open != nullptr && pendingOnly) open->view(true);
+    if (open == nullptr)
+        ViewPendingAlerts = pendingOnly;
+    else if (ViewPendingAlerts != pendingOnly)
+        open->view(pendingOnly);
     ShowWindow<frmAlert>();
 }
 

@@ -63,6 +63,7 @@ class frmAlert : public Window {
     void showAll();
     void showLists();
     void showEdit();
+    void showSelected();
     void showDate();
     void showPeriodChoice();
     AlertEdit typed() const;
@@ -71,6 +72,7 @@ class frmAlert : public Window {
     void select(int entry);
     void lstAlerts_Click(int entry);
     void dateChosen();
+    void takeTypedBoxes();
     void txtDate_LostFocus();
     void optValue_Click(int index);
     void txtValue_LostFocus();
@@ -84,8 +86,8 @@ class frmAlert : public Window {
     Leaving* periodLeft_;
 };
 
-/// Opens the window on the pending alerts, or on all. One that is open comes to the front, and shows the pending ones
-/// if they are asked for.
+/// Opens the window on the pending alerts, or on all. One that is open comes to the front and shows those that are
+/// asked for.
 void OpenAlertManager(bool pendingOnly);
 /// Opens the window for a new alert on the date.
 void OpenAlertManagerFor(Date date);

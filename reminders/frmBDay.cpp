@@ -95,6 +95,7 @@ void frmBDay::makeLists() {
         list->setSelectionMode(QAbstractItemView::ExtendedSelection);
         list->setUniformItemSizes(true);
         connect(list, &QListWidget::itemSelectionChanged, this, [this, element] { lstData_Click(element); });
+        connect(list, &QListWidget::itemClicked, this, [this, element] { lstData_Click(element); });
         lstData[At(element)] = list;
     }
     lstData[1]->setItemDelegate(new DateAndName(lstData[1]));
@@ -244,7 +245,14 @@ void frmBDay::lstData_Click(int element) {
 void frmBDay::txt_LostFocus() {
     const std::string date = ToText(txt[1]->text());
     if (!ReadDate(date)) return ShowMessage("Invalid Date");
-    if (!NamesYear(date)) chkRememberAge->setChecked(false);  // there is no year to remember
+    forgetMissingYear();
+}
+
+/// Once after the date was typed: whoever then asks for the age to be remembered gets this year.
+void frmBDay::forgetMissingYear() {
+    const std::string date = ToText(txt[1]->text());
+    if (txt[1]->isModified() && ReadDate(date) && !NamesYear(date)) chkRememberAge->setChecked(false);
+    txt[1]->setModified(false);
 }
 
 void frmBDay::proposeNew(Date date) {
@@ -259,27 +267,30 @@ void frmBDay::proposeNew(Date date) {
 
 void frmBDay::cmdSave_Click() {
     dateLeft_->cancel();
-    const auto name = TextToSave(txt[0]->text());
+    forgetMissingYear();
+    const auto name = TextToSave(OnOneLine(txt[0]->text()));
     if (!name) return txt[0]->setFocus();
     BirthdayEdit edit = typed();
     edit.name = *name;
     const BirthdayField field = SaveBirthday(edit);
     if (field == BirthdayField::Name) txt[0]->setFocus();
     if (field == BirthdayField::Date) txt[1]->setFocus();
-    if (field != BirthdayField::Saved) return;
-    showLists();
+    if (field != BirthdayField::Saved && field != BirthdayField::Abandoned) return;
+    showLists();  // a failed save, too, has read the file again, which somebody else may have written
     if (BirthdayList.edited < 0) return;
     selectBirthday(BirthdayList.edited);
-    showEdit(SelectBirthday(BirthdayList.edited));
+    if (field == BirthdayField::Saved) showEdit(SelectBirthday(BirthdayList.edited));
 }
 
 void frmBDay::cmdDelete_Click() {
     std::vector<int> indexes;
     for (const std::string& entry : selectedEntries())
         if (const auto index = RecordIndex(entry)) indexes.push_back(*index);
-    if (!DeleteBirthdays(indexes)) return;
+    const std::vector<std::string> before = visibleEntries();
+    const bool deleted = DeleteBirthdays(indexes);
+    if (!deleted && visibleEntries() == before) return;
     showLists();
-    lblAge->setText(QStringLiteral("Age = NA"));
+    if (deleted) lblAge->setText(QStringLiteral("Age = NA"));
 }
 
 void frmBDay::cmdClear_Click() {
@@ -295,6 +306,7 @@ void frmBDay::cmdSort_Click() {
     lstData[2]->setVisible(byName);
     cmdSort->setText(byName ? QStringLiteral("Sort by &Month") : QStringLiteral("Sort by &Name"));
     const QSignalBlocker quiet(visibleList());
+    selectBirthday(BirthdayList.edited);  // the arrow keys go on from it
     visibleList()->clearSelection();
     for (std::size_t row = 0; row < visibleEntries().size(); ++row)
         if (std::count(selected.begin(), selected.end(), RecordIndex(visibleEntries()[row])) > 0)
@@ -306,6 +318,7 @@ void frmBDay::mnuFileNew_Click() {
     cmdClear_Click();
     showEdit({});
     txt[0]->setFocus();
+    dateLeft_->cancel();  // the date box was emptied, nobody left it so
 }
 
 void frmBDay::view(bool pendingOnly) {

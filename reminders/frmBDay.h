@@ -63,6 +63,7 @@ class frmBDay : public Window {
     std::vector<std::string> selectedEntries() const;
     void lstData_Click(int element);
     void txt_LostFocus();
+    void forgetMissingYear();
     void cmdSave_Click();
     void cmdDelete_Click();
     void cmdClear_Click();

@@ -42,8 +42,9 @@ void frmHolidays::makeControls() {
     cmdAddNew = Named(new QPushButton(QStringLiteral("&Insert New Holiday")), QStringLiteral("cmdAddNew"));
     for (QPushButton* button : {cmdSave, cmdDelete, cmdAddNew}) button->setAutoDefault(true);
     connect(cmbYear, &QComboBox::textActivated, this, [this] { cmbYear_Click(); });
-    connect(lstHolidays, &QListWidget::currentRowChanged, this, &frmHolidays::lstHolidays_Click);
-    connect(lstHolidays, &QListWidget::itemClicked, this, [this] { lstHolidays_Click(lstHolidays->currentRow()); });
+    connect(lstHolidays, &QListWidget::itemSelectionChanged, this,
+            [this] { lstHolidays_Click(SelectedRow(lstHolidays)); });
+    connect(lstHolidays, &QListWidget::itemClicked, this, [this] { lstHolidays_Click(SelectedRow(lstHolidays)); });
     connect(txtDate, &QLineEdit::returnPressed, this, [this] { focusOn(txtDesc); });
     connect(txtDesc, &QLineEdit::returnPressed, cmdSave, [this] { cmdSave->setFocus(); });
     connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
@@ -51,7 +52,7 @@ void frmHolidays::makeControls() {
     connect(cmdAddNew, &QPushButton::clicked, this, [this] { cmdAddNew_Click(); });
     new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
     // A year that was typed and not loaded would stand over another year's list.
-    new Leaving(cmbYear, [this] { cmbYear->setEditText(FromText(HolidayList.year)); });
+    new Leaving(cmbYear, [this] { showYear(); });
 }
 
 void frmHolidays::buildMenus() {
@@ -99,11 +100,20 @@ void frmHolidays::PopulateComboList() {
 // -- Showing --------------------------------------------------------------------------------------------------------
 
 void frmHolidays::showList(int entry) {
+    showLines(entry);
+    showYear();
+    showEntry(entry);
+}
+
+void frmHolidays::showLines(int entry) {
     const QSignalBlocker quiet(lstHolidays);
     ShowEntries(lstHolidays, HolidayList.lines);
     lstHolidays->setCurrentRow(entry);
-    cmbYear->setEditText(FromText(HolidayList.year));
-    showEntry(entry);
+}
+
+void frmHolidays::showYear() {
+    const QString year = FromText(HolidayList.year);
+    ShowChoice(cmbYear, cmbYear->findText(year), year);
 }
 
 void frmHolidays::showEntry(int entry) {
@@ -140,13 +150,15 @@ void frmHolidays::lstHolidays_Click(int entry) {
 }
 
 void frmHolidays::cmdSave_Click() {
-    const auto description = TextToSave(txtDesc->text());
+    const auto description = TextToSave(OnOneLine(txtDesc->text()));
     if (!description) return focusOn(txtDesc);
     switch (SaveHoliday(ToText(txtDate->text()), *description)) {
         case HolidayField::Date:
             return focusOn(txtDate);
         case HolidayField::Description:
             return focusOn(txtDesc);
+        case HolidayField::Abandoned:
+            return showLines(HolidayList.clicked);
         case HolidayField::Saved:
             return showList(0);
     }

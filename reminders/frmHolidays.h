@@ -43,6 +43,8 @@ class frmHolidays : public Window {
     void layOut();
     void PopulateComboList();
     void showList(int entry);
+    void showLines(int entry);
+    void showYear();
     void showEntry(int entry);
     void focusOn(QLineEdit* box);
     void cmbYear_Click();

@@ -55,6 +55,13 @@ int SelectedMaster() {
     return AlertList.indexes[static_cast<std::size_t>(entry)];
 }
 
+/// The entry of a line among those listed, or -1.
+int EntryOf(const std::string& line) {
+    for (std::size_t entry = 0; entry < AlertList.indexes.size(); ++entry)
+        if (AlertMasterList[static_cast<std::size_t>(AlertList.indexes[entry])] == line) return static_cast<int>(entry);
+    return -1;
+}
+
 void EraseFromMaster(int index) {
     if (index >= 0) AlertMasterList.erase(AlertMasterList.begin() + index);
 }
@@ -178,16 +185,18 @@ AlertField SaveAlert(const AlertEdit& typed) {
     }
     if (const AlertField wrong = Check(typed); wrong != AlertField::Saved) return wrong;
     if (!MayTurnIntoLineBreaks(typed.message, "message")) return AlertField::Message;
-    if (!AddingNewAlert) EraseFromMaster(SelectedMaster());
+    const int selected = AddingNewAlert ? -1 : SelectedMaster();
+    const std::string old = selected < 0 ? "" : AlertMasterList[static_cast<std::size_t>(selected)];
+    EraseFromMaster(selected);
     InsertInListOrder(AlertMasterList, AlertLineOf({*AlertDateTyped(typed.date),
                                                     static_cast<int>(IntegerValue(typed.period)), typed.message}));
     const AlertListState before = AlertList;
     const bool adding = AddingNewAlert;
     if (SaveAndReload()) return AlertField::Saved;
     // The write failed: what was typed stays in the window, to be saved again in the place it was meant for.
-    AddingNewAlert = adding;
-    AlertList.selected = before.selected;
-    AlertList.heading = before.heading;
+    AlertList.selected = adding ? before.selected : EntryOf(old);
+    AddingNewAlert = adding || AlertList.selected < 0;
+    AlertList.heading = AddingNewAlert ? AddingHeading : before.heading;
     AlertList.date = before.date;
     AlertList.edit = typed;
     return AlertField::Abandoned;

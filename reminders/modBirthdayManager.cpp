@@ -61,6 +61,7 @@ void OpenBirthdayList() {
     BirthdayList.pendingOnly = PendingBirthdayCount >= 1;
     QuietBirthdaySave = true;
     ReadBirthdays();
+    FillPendingBirthdayList();
     RebuildLists();
 }
 
@@ -206,6 +207,16 @@ bool IsPlain(const std::string& line) {
            line.size() == record.MonthDay.size() + record.Name.size() + record.BirthYear.size() + 5;
 }
 
+/// The birthday of a line, or -1: a reading may have moved it.
+int IndexOf(const std::string& line) {
+    const auto found = std::find(BirthdayLine.begin(), BirthdayLine.end(), line);
+    return found == BirthdayLine.end() ? -1 : static_cast<int>(found - BirthdayLine.begin());
+}
+
+std::string EditedLine() {
+    return BirthdayList.edited < 0 ? "" : BirthdayLine[static_cast<std::size_t>(BirthdayList.edited)];
+}
+
 /// Takes the line of a birthday out of the master list.
 void EraseLine(const std::string& line) {
     const auto found = std::find(BirthdayMasterList.begin(), BirthdayMasterList.end(), line);
@@ -217,22 +228,15 @@ BirthdayField SaveBirthday(const BirthdayEdit& typed) {
     if (const BirthdayField wrong = Check(typed); wrong != BirthdayField::Saved) return wrong;
     const std::string line = LineOf(typed);
     const bool adding = BirthdayList.edited < 0;
-    bool keepPrevious = false;
-    if (!adding) {
-        const std::string& old = BirthdayLine[static_cast<std::size_t>(BirthdayList.edited)];
-        keepPrevious = !IsPlain(old);
-        EraseLine(old);
-    }
+    const std::string old = EditedLine();
+    if (!adding) EraseLine(old);
     // Saving the same new birthday twice adds it once.
     const bool there =
         std::find(BirthdayMasterList.begin(), BirthdayMasterList.end(), line) != BirthdayMasterList.end();
     if (!adding || !there) InsertInListOrder(BirthdayMasterList, line);
-    if (!SaveAndReload(keepPrevious)) return BirthdayField::Abandoned;
-    if (!adding) {
-        const auto saved = std::find(BirthdayLine.begin(), BirthdayLine.end(), line);
-        BirthdayList.edited = saved == BirthdayLine.end() ? -1 : static_cast<int>(saved - BirthdayLine.begin());
-    }
-    return BirthdayField::Saved;
+    const bool saved = SaveAndReload(!adding && !IsPlain(old));
+    if (!adding) BirthdayList.edited = IndexOf(saved ? line : old);
+    return saved ? BirthdayField::Saved : BirthdayField::Abandoned;
 }
 
 bool DeleteBirthdays(const std::vector<int>& indexes) {
@@ -245,8 +249,10 @@ bool DeleteBirthdays(const std::vector<int>& indexes) {
                        "Preparing to Delete Multiple Items") != Answer::Yes)
         return false;
     for (const int index : indexes) EraseLine(BirthdayLine[static_cast<std::size_t>(index)]);
-    BirthdayList.edited = -1;
-    return SaveAndReload(several);
+    const std::string edited = EditedLine();
+    const bool deleted = SaveAndReload(several);
+    BirthdayList.edited = deleted ? -1 : IndexOf(edited);
+    return deleted;
 }
 
 void MarkAllBirthdays() {

@@ -47,6 +47,7 @@ void PutHoliday(const std::string& line) {
     });
     if (same != lines.end()) lines.erase(same);
     InsertInListOrder(lines, line);
+    HolidayList.clicked = static_cast<int>(std::find(lines.begin(), lines.end(), line) - lines.begin());
 }
 
 void WriteHolidayFile() {
@@ -117,7 +118,7 @@ HolidayField SaveHoliday(std::string_view date, std::string_view description) {
     if (!day) return Refuse("Date not recognized as entered.", HolidayField::Date);
     if (Trimmed(description).empty()) return Refuse("Please enter a description.", HolidayField::Description);
     PutHoliday(FormatDate(*day, "mm/dd/yy") + ":" + std::string(description));
-    if (!SaveHolidayFile()) return HolidayField::Date;
+    if (!SaveHolidayFile()) return HolidayField::Abandoned;
     LoadHolidayList();
     HolidayList.changed = true;
     return HolidayField::Saved;

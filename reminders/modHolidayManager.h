@@ -14,7 +14,7 @@ struct HolidayListState {
 extern HolidayListState HolidayList;
 
 /// Where the window puts the focus after a save.
-enum class HolidayField { Date, Description, Saved };
+enum class HolidayField { Date, Description, Saved, Abandoned };
 
 /// Selects the current year and loads its list.
 void OpenHolidayList();
@@ -35,7 +35,8 @@ std::string HolidayDateShown(int entry);
 std::string HolidayDescription(int entry);
 
 /// Checks what was typed and puts it into the list, in place of what the date had, and saves the list. What is refused
-/// is told, and answers the field to correct; after a failed write Date.
+/// is told, and answers the field to correct. Abandoned after a failed write: the list then has the entry, as the one
+/// that was clicked, and can be saved again.
 HolidayField SaveHoliday(std::string_view date, std::string_view description);
 
 /// Removes the clicked entry and saves the list. The file as it was is kept in "Backup". Nothing without an entry.

@@ -215,16 +215,18 @@ QWidget* frmMain::makeRightPanel() {
                         "lblBirthdayDate", "Date =");
     connect(lstAlerts, &QListWidget::currentRowChanged, this, &frmMain::lstAlerts_Click);
     connect(lstBirthdays, &QListWidget::currentRowChanged, this, &frmMain::lstBirthdays_Click);
-    // The row that a list keeps while it is filled anew has no date beside it until it is clicked again.
+    // Clicked again, a row tells again: the label may be without a date meanwhile.
     connect(lstAlerts, &QListWidget::itemClicked, this, &frmMain::lstAlerts_Click);
     connect(lstBirthdays, &QListWidget::itemClicked, this, &frmMain::lstBirthdays_Click);
     column->addWidget(Named(new HelpPanel(panel), QStringLiteral("HelpPanel"), QStringLiteral("Help")), 5);
     ShowPendingAlerts = [this] {
         ShowEntries(lstAlerts, PendingAlertEntries);
+        lstAlerts->setCurrentRow(-1);  // another entry may be in the row
         lblAlertDate->setText(QStringLiteral("Alert Date ="));
     };
     ShowPendingBirthdays = [this] {
         ShowEntries(lstBirthdays, PendingBirthdayEntries);
+        lstBirthdays->setCurrentRow(-1);
         lblBirthdayDate->setText(QStringLiteral("Date ="));
     };
     return panel;

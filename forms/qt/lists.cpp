@@ -1,4 +1,4 @@
-// List boxes as pictures of tables.
+// List boxes and combo boxes as pictures of tables.
 #include "forms/qt/lists.h"
 
 #include <QSignalBlocker>
@@ -24,4 +24,15 @@ void ShowEntries(QListWidget* list, const std::vector<std::string>& entries) {
 std::string EntryAt(const QListWidget* list, int row) {
     const QListWidgetItem* item = list->item(row);
     return item == nullptr ? std::string() : item->data(Qt::UserRole).toByteArray().toStdString();
+}
+
+int SelectedRow(const QListWidget* list) {
+    const auto selected = list->selectionModel()->selectedRows();
+    return selected.isEmpty() ? -1 : selected.first().row();
+}
+
+void ShowChoice(QComboBox* box, int row, const QString& text) {
+    const QSignalBlocker quiet(box);
+    box->setCurrentIndex(row < box->count() ? row : -1);
+    box->setEditText(text);
 }

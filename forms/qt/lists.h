@@ -1,6 +1,7 @@
 // List boxes and combo boxes as pictures of tables.
 #pragma once
 
+#include <QComboBox>
 #include <QListWidget>
 #include <string>
 #include <vector>
@@ -11,3 +12,11 @@ void ShowEntries(QListWidget* list, const std::vector<std::string>& entries);
 
 /// The whole entry of a row; "" for a row that is not there.
 std::string EntryAt(const QListWidget* list, int row);
+
+/// The row that is selected, the first of several; -1 for none. A list that gets the focus by Tab has a current row
+/// without a selected one.
+int SelectedRow(const QListWidget* list);
+
+/// Shows a text in a box that also takes typed ones, and goes to the row of its list (-1: to none), from which the
+/// arrow keys then go on. Fires no event.
+void ShowChoice(QComboBox* box, int row, const QString& text);

@@ -2,6 +2,7 @@
 #include "forms/qt/text.h"
 
 #include <QLabel>
+#include <QRegularExpression>
 
 #include "base/dialogs.h"
 #include "base/text.h"
@@ -41,6 +42,10 @@ std::optional<std::string> TextToSave(const QString& typed) {
     if (misfits.isEmpty()) return text;
     ShowUtf8Message(MisfitMessage(misfits.toStdString()));
     return std::nullopt;
+}
+
+QString OnOneLine(QString text) {
+    return text.replace(QRegularExpression(QStringLiteral("[\\r\\n]+")), QStringLiteral(" "));
 }
 
 QString FromPath(const std::string& utf8) { return QString::fromStdString(utf8); }

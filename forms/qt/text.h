@@ -17,6 +17,9 @@ std::string ToText(const QString& shown);
 /// decomposed accents are the same.
 std::optional<std::string> TextToSave(const QString& typed);
 
+/// The text as a box of one line shows it: pasted line breaks are blanks.
+QString OnOneLine(QString text);
+
 QString FromPath(const std::string& utf8);
 
 /// Shows as much of the text on the label as fits its width; where that is not all, the whole text is its tool tip.

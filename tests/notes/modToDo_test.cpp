@@ -51,7 +51,7 @@ TEST(ToDo, FilesAsTheyAreRead) {
         const TemporaryFolder folder;
         ScriptedDialogs dialogs;
         folder.put("To Do.dat", row.file);
-        if (row.tooLong) dialogs.expect("ReadToDoList");
+        if (row.tooLong) dialogs.expect("line 11 of the file \"To Do.dat\"");
         OpenList();
         EXPECT_EQ(Edited(), row.rows);
         EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);

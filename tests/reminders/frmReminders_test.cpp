@@ -21,6 +21,11 @@ struct ReminderWindows : testing::Test {
     ScriptedDialogs dialogs;
 
     ReminderWindows() { SelectDate(MakeDate(2026, 11, 22)); }
+    /// Passing a list by Tab chooses nothing.
+    static void reachByTab(QListWidget* list) {
+        QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
+        QCoreApplication::sendEvent(list, &tab);
+    }
     ~ReminderWindows() override {
         UnloadAllWindows();
         // What the main window filled goes with it.
@@ -43,14 +48,19 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("Dec 25, 2026"));
     window->cmdAddNew->click();
     window->txtDate->setText(QStringLiteral("1/1/2009"));
+    reachByTab(window->lstHolidays);
     QTest::keyClick(window->txtDate, Qt::Key_Return);
     window->txtDesc->setText(QString::fromUtf8("Neujahr \xE2\x98\x83"));
     QTest::keyClick(window->txtDesc, Qt::Key_Return);
     dialogs.expect("\xE2\x98\x83");
     window->cmdSave->click();
-    window->txtDesc->setText(QStringLiteral("New Year"));
+    window->txtDesc->setText(QStringLiteral("New\nYear"));
     window->cmdSave->click();
     EXPECT_EQ(Text(window->lstHolidays, 0), QStringLiteral("01/01/26:New Year"));
+    dialogs.expect("There is no Holiday List for 2008");
+    QTest::keyClick(window->cmbYear, Qt::Key_Down);
+    window->cmbYear->setEditText(QStringLiteral("2026"));
+    window->menus[QStringLiteral("mnuFileNew")]->trigger();
     window->cmbYear->setEditText(QStringLiteral("2031"));
     QFocusEvent left(QEvent::FocusOut, Qt::TabFocusReason);
     QCoreApplication::sendEvent(window->cmbYear, &left);
@@ -86,7 +96,7 @@ TEST_F(ReminderWindows, BirthdaysAreSelectedSortedEditedAndDeleted) {
     window->cmdSort->click();
     EXPECT_EQ(Text(window->lstData[2], 0), QStringLiteral("Adler, Zoe - 01/02/1990"));
     EXPECT_TRUE(window->lstData[2]->item(0)->isSelected()) << "the selection is carried over";
-    window->lstData[2]->setCurrentRow(1);  // Young
+    QTest::keyClick(window->lstData[2], Qt::Key_Down);  // to Young
     EXPECT_TRUE(
         std::none_of(window->optNotify.begin(), window->optNotify.end(), [](auto* o) { return o->isChecked(); }));
     window->txt[0]->setText(QStringLiteral("Cy Younger"));
@@ -114,7 +124,8 @@ TEST_F(ReminderWindows, LeavingABirthdayWithoutAYearForgetsTheAge) {
     window->activateWindow();
     const auto leave = [&](const char* date) {
         window->txt[1]->setFocus();
-        window->txt[1]->setText(QString::fromLatin1(date));
+        window->txt[1]->selectAll();
+        QTest::keyClicks(window->txt[1], QString::fromLatin1(date));
         window->cmdClear->setFocus();
         QTest::qWait(10);
     };
@@ -123,7 +134,23 @@ TEST_F(ReminderWindows, LeavingABirthdayWithoutAYearForgetsTheAge) {
     leave("7/4");
     EXPECT_FALSE(window->chkRememberAge->isChecked());
     dialogs.expect("Invalid Date");
-    leave("");
+    leave("x");
+    // Saved without being left; a click on the selected entry then shows it once more.
+    window->txt[0]->setText(QStringLiteral("Ann\nB"));
+    window->chkRememberAge->setChecked(true);
+    window->txt[1]->selectAll();
+    QTest::keyClicks(window->txt[1], QStringLiteral("7/4"));
+    window->menus[QStringLiteral("mnuFileSave")]->trigger();
+    EXPECT_EQ(folder.get("Birthdays.dat"), "07/04:07:Ann B:****\r\n");
+    for (const char* typed : {"", "typed over"}) {
+        window->txt[0]->setText(QString::fromLatin1(typed));
+        QTest::mouseClick(window->lstData[1]->viewport(), Qt::LeftButton, {},
+                          window->lstData[1]->visualItemRect(window->lstData[1]->item(0)).center());
+        EXPECT_EQ(window->txt[0]->text(), QStringLiteral("Ann B"));
+    }
+    window->txt[1]->setFocus();
+    window->menus[QStringLiteral("mnuFileNew")]->trigger();
+    QTest::qWait(10);  // nobody left the box that was emptied
 }
 
 TEST_F(ReminderWindows, AlertsAreEnteredWithDateBoxesAndPeriods) {
@@ -137,9 +164,15 @@ TEST_F(ReminderWindows, AlertsAreEnteredWithDateBoxesAndPeriods) {
     window->txtValue->clear();
     QTest::keyClicks(window->txtValue, QStringLiteral("12a345"));
     EXPECT_EQ(window->txtValue->text(), QStringLiteral("1234"));
-    window->cmbYear->setEditText(QStringLiteral("2035"));
-    Q_EMIT window->cmbMonth->textActivated(QString());
+    window->cmbYear->lineEdit()->selectAll();
+    QTest::keyClicks(window->cmbYear, QStringLiteral("2035"));
+    QTest::keyClick(window->cmbYear, Qt::Key_Return);
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("11/22/35"));
+    for (QComboBox* box : {window->cmbMonth, window->cmbDay}) {
+        QTest::keyClick(box, Qt::Key_Down);
+        QTest::keyClick(box, Qt::Key_Up);
+    }
+    EXPECT_EQ(window->txtDate->text(), QStringLiteral("11/22/35")) << "the keys go on from what is shown";
     window->txtMessage->setPlainText(QStringLiteral("one\ntwo"));
     dialogs.expect("Alert List Updated.");
     window->cmdSave[1]->click();
@@ -162,8 +195,11 @@ TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
     EXPECT_TRUE(std::none_of(window->optValue.begin(), window->optValue.end(), [](auto* o) { return o->isChecked(); }));
     window->menus[QStringLiteral("mnuFileNew")]->trigger();
     window->txtMessage->setPlainText(QStringLiteral("typed"));
+    reachByTab(window->lstAlerts[2]);
     window->menus[QStringLiteral("mnuSortDate")]->trigger();
     window->menus[QStringLiteral("mnuViewPending")]->trigger();
+    OpenAlertManager(false);
+    EXPECT_EQ(window->lblList->text(), QStringLiteral("Active Alert List: 2 Alerts")) << "those asked for are shown";
     OpenAlertManagerFor(MakeDate(2026, 12, 1));
     EXPECT_EQ(window->txtMessage->toPlainText(), QStringLiteral("typed")) << "what is being typed stays";
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("12/01/26"));
@@ -195,6 +231,10 @@ TEST_F(ReminderWindows, TheMainWindowShowsWhatIsPending) {
     EXPECT_EQ(OpenedWindow<frmAlert>()->lblMain->text(), QStringLiteral("Adding New Alert"));
     main.imgBDay->click();
     EXPECT_EQ(OpenedWindow<frmBDay>()->lstData[1]->count(), 1);
+    folder.put("Alerts.dat", "46350:0004:Earlier\r\n46350:0004:Soon\r\n");
+    ReadAlerts();
+    FillPendingAlertList();
+    EXPECT_EQ(main.lstAlerts->currentRow(), -1) << "the row holds another alert";
     OpenBirthdayManager(MakeDate(2026, 12, 24));
     EXPECT_EQ(OpenedWindow<frmBDay>()->txt[1]->text(), QStringLiteral("12/24"));
 }

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "base/diskio.h"
+#include "base/errors.h"
+#include "base/files.h"
 #include "calendar/modCalendar.h"
 #include "reminders/modAlerts.h"
 #include "tests/support/dialogs.h"
@@ -149,12 +152,18 @@ TEST_F(AlertManager, SwitchingTheViewKeepsANewAlertBeingTyped) {
 TEST_F(AlertManager, AFailedSaveKeepsWhatWasTypedAndItsPlace) {
     open(Three);
     SelectAlert(1);
-    std::filesystem::remove(folder_.path() / "Alerts.dat");
-    std::filesystem::create_directories(folder_.path() / "Alerts.dat/in the way");
-    dialogs_.expect("over-write", Answer::Yes);
-    dialogs_.expect("SaveAlerts");
-    EXPECT_EQ(save("12/1/2026", "7", "typed"), AlertField::Abandoned);
-    EXPECT_EQ(AlertList.edit.message, "typed");
-    EXPECT_EQ(AlertList.selected, 1);
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    // Meanwhile somebody else has put an alert in front of it, and then has taken it away.
+    for (const auto& [file, entry] : {std::pair{std::string("46000:0000:New\r\n") + Three, 2},
+                                      std::pair{std::string("46340:0003:Expired\r\n"), -1}}) {
+        folder_.put("Alerts.dat", file);
+        dialogs_.expect("over-write", Answer::Yes);
+        dialogs_.expect("SaveAlerts");
+        EXPECT_EQ(save("12/1/2026", "7", "typed"), AlertField::Abandoned);
+        EXPECT_EQ(AlertList.edit.message, "typed");
+        EXPECT_EQ(AlertList.selected, entry);
+        EXPECT_EQ(AddingNewAlert, entry < 0);
+    }
+    SetDisk({});
 }
 }  // namespace

@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include "base/diskio.h"
+#include "base/errors.h"
+#include "base/files.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/folder.h"
 #include "tests/support/printer.h"
@@ -130,6 +133,26 @@ TEST_F(BirthdayManager, DeletesSeveralAfterAQuestionAndKeepsTheFile) {
     dialogs_.expect("Birthday List Saved. Changes will be reflected in your next calendar view.");
     CloseBirthdayList();
     CloseBirthdayList();
+}
+
+TEST_F(BirthdayManager, AFailedWriteLeavesTheEditedBirthdayTheEditedOne) {
+    const std::string ann = "01/02:00:Ann:****\r\n";
+    const std::string grandpa = "07/04:07:Grandpa:1931\r\n";
+    open(ann + grandpa);
+    BirthdayEdit shown = SelectBirthday(1);
+    shown.name = "Granddad";
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    for (const bool deleting : {false, true}) {
+        // Meanwhile somebody else has taken the first away, or put it back.
+        folder_.put("Birthdays.dat", deleting ? ann + grandpa : grandpa);
+        dialogs_.expect("SaveBirthdays");
+        if (deleting)
+            EXPECT_FALSE(DeleteBirthdays({0}));
+        else
+            EXPECT_EQ(SaveBirthday(shown), BirthdayField::Abandoned);
+        EXPECT_EQ(BirthdayList.edited, deleting ? 1 : 0);
+    }
+    SetDisk({});
 }
 
 TEST_F(BirthdayManager, KnowsWhetherADateSaysItsYear) {

@@ -97,8 +97,9 @@ TEST_F(HolidayManager, AFailedSaveKeepsTheListForAnotherTry) {
     std::filesystem::rename(folder_.path() / "Holidays", folder_.path() / "away");
     folder_.put("Holidays", "a file in the folder's place");
     dialogs_.expect("SaveHolidayFile");
-    EXPECT_EQ(SaveHoliday("12/25", "Christmas"), HolidayField::Date);
+    EXPECT_EQ(SaveHoliday("12/25", "Christmas"), HolidayField::Abandoned);
     EXPECT_EQ(HolidayList.lines.size(), 2U);
+    EXPECT_EQ(HolidayList.clicked, 1) << "the new entry is the one that is shown";
     std::filesystem::remove(folder_.path() / "Holidays");
     CalendarView = 12;
     Calendar.firstShown = MakeDate(2011, 1, 1);
