@@ -48,7 +48,6 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("Dec 25, 2026"));
     window->cmdAddNew->click();
     window->txtDate->setText(QStringLiteral("1/1/2009"));
-    reachByTab(window->lstHolidays);
     QTest::keyClick(window->txtDate, Qt::Key_Return);
     window->txtDesc->setText(QString::fromUtf8("Neujahr \xE2\x98\x83"));
     QTest::keyClick(window->txtDesc, Qt::Key_Return);
@@ -76,13 +75,14 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
 
 TEST_F(ReminderWindows, AMarkedHolidayIsProposedInItsOwnYear) {
     dialogs.expect("There is no Holiday List for 2026");
-    dialogs.expect("There is no Holiday List for 2029");
+    folder.put("Holidays/2029Holidays.dat", "12/25/29:Christmas\r\n");
     OpenHolidayManagerFor(MakeDate(2029, 7, 4));
     auto* window = OpenedWindow<frmHolidays>();
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("Jul 04, 2029"));
     window->txtDesc->setText(QStringLiteral("Fourth"));
+    reachByTab(window->lstHolidays);
     window->cmdSave->click();
-    EXPECT_EQ(folder.get("Holidays/2029Holidays.dat"), "07/04/29:Fourth\r\n");
+    EXPECT_EQ(folder.get("Holidays/2029Holidays.dat"), "07/04/29:Fourth\r\n12/25/29:Christmas\r\n");
 }
 
 TEST_F(ReminderWindows, BirthdaysAreSelectedSortedEditedAndDeleted) {
