@@ -58,6 +58,11 @@ void MakeTabStop(const Patches& patches, int index) {
     for (int i = 0; i < static_cast<int>(patches.size()); ++i)
         patches[At(i)]->setFocusPolicy(i == index ? Qt::StrongFocus : Qt::ClickFocus);
 }
+
+/// The text as a box of one line shows it: pasted line breaks are blanks.
+QString OnOneLine(QString text) {
+    return text.replace(QRegularExpression(QStringLiteral("[\\r\\n]+")), QStringLiteral(" "));
+}
 }  // namespace
 
 // -- Patches ---------------------------------------------------------------------------------------------------------

@@ -240,10 +240,10 @@ void frmAlert::showDate() {
     txtDate->setText(FromText(AlertList.edit.date));
     if (AlertDateTyped(AlertList.edit.date) != AlertList.date) return;  // no date: the boxes stay
     const YearMonthDay day = PartsOf(AlertList.date);
-    ShowChoice(cmbMonth, day.month - 1, FromText(FormatDate(AlertList.date, "mmmm")));
-    ShowChoice(cmbDay, day.day - 1, FromText(FormatDate(AlertList.date, "dd")));
+    ShowInBox(cmbMonth, day.month - 1, FromText(FormatDate(AlertList.date, "mmmm")));
+    ShowInBox(cmbDay, day.day - 1, FromText(FormatDate(AlertList.date, "dd")));
     const QString year = FromText(FormatDate(AlertList.date, "yyyy"));
-    ShowChoice(cmbYear, cmbYear->findText(year), year);
+    ShowInBox(cmbYear, cmbYear->findText(year), year);
 }
 
 void frmAlert::showPeriodChoice() {

@@ -267,9 +267,9 @@ void frmBDay::proposeNew(Date date) {
 
 void frmBDay::cmdSave_Click() {
     dateLeft_->cancel();
-    forgetMissingYear();
-    const auto name = TextToSave(OnOneLine(txt[0]->text()));
+    const auto name = LineToSave(txt[0]->text());
     if (!name) return txt[0]->setFocus();
+    forgetMissingYear();
     BirthdayEdit edit = typed();
     edit.name = *name;
     const BirthdayField field = SaveBirthday(edit);

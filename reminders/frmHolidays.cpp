@@ -113,7 +113,7 @@ void frmHolidays::showLines(int entry) {
 
 void frmHolidays::showYear() {
     const QString year = FromText(HolidayList.year);
-    ShowChoice(cmbYear, cmbYear->findText(year), year);
+    ShowInBox(cmbYear, cmbYear->findText(year), year);
 }
 
 void frmHolidays::showEntry(int entry) {
@@ -150,7 +150,7 @@ void frmHolidays::lstHolidays_Click(int entry) {
 }
 
 void frmHolidays::cmdSave_Click() {
-    const auto description = TextToSave(OnOneLine(txtDesc->text()));
+    const auto description = LineToSave(txtDesc->text());
     if (!description) return focusOn(txtDesc);
     switch (SaveHoliday(ToText(txtDate->text()), *description)) {
         case HolidayField::Date:

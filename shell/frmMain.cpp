@@ -450,6 +450,11 @@ bool frmMain::eventFilter(QObject* watched, QEvent* event) {
         const auto button = static_cast<QMouseEvent*>(event)->button();
         if (button != Qt::LeftButton) IgnorePendingAlerts();
     }
+    if (event->type() == QEvent::ContextMenu && watched == cmdAlert &&
+        static_cast<QContextMenuEvent*>(event)->reason() == QContextMenuEvent::Keyboard) {
+        IgnorePendingAlerts();  // the menu key is the keyboard's right click
+        return true;
+    }
     if (event->type() == QEvent::ToolTip && watched == lblDate)
         lblDate->setToolTip(FromText("The time is now " + FormatTime(Now().second, "hh:mm:ss AM/PM ")));
     return Window::eventFilter(watched, event);

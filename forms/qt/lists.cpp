@@ -21,6 +21,11 @@ void ShowEntries(QListWidget* list, const std::vector<std::string>& entries) {
     list->setCurrentRow(std::min(row, list->count() - 1));
 }
 
+void ShowInBox(QComboBox* box, int entry, const QString& text) {
+    box->setCurrentIndex(entry);
+    box->setEditText(text);
+}
+
 std::string EntryAt(const QListWidget* list, int row) {
     const QListWidgetItem* item = list->item(row);
     return item == nullptr ? std::string() : item->data(Qt::UserRole).toByteArray().toStdString();
@@ -29,10 +34,4 @@ std::string EntryAt(const QListWidget* list, int row) {
 int SelectedRow(const QListWidget* list) {
     const auto selected = list->selectionModel()->selectedRows();
     return selected.isEmpty() ? -1 : selected.first().row();
-}
-
-void ShowChoice(QComboBox* box, int row, const QString& text) {
-    const QSignalBlocker quiet(box);
-    box->setCurrentIndex(row < box->count() ? row : -1);
-    box->setEditText(text);
 }

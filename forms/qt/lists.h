@@ -10,13 +10,13 @@
 /// (EntryAt). Keeps the current row where it can. Fires no event.
 void ShowEntries(QListWidget* list, const std::vector<std::string>& entries);
 
+/// Shows the text in a box that also takes typed text, and makes `entry` the current one of its list (-1 for none): the
+/// arrow keys and the opened list go on from what is shown.
+void ShowInBox(QComboBox* box, int entry, const QString& text);
+
 /// The whole entry of a row; "" for a row that is not there.
 std::string EntryAt(const QListWidget* list, int row);
 
 /// The row that is selected, the first of several; -1 for none. A list that gets the focus by Tab has a current row
 /// without a selected one.
 int SelectedRow(const QListWidget* list);
-
-/// Shows a text in a box that also takes typed ones, and goes to the row of its list (-1: to none), from which the
-/// arrow keys then go on. Fires no event.
-void ShowChoice(QComboBox* box, int row, const QString& text);

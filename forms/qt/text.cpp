@@ -2,7 +2,6 @@
 #include "forms/qt/text.h"
 
 #include <QLabel>
-#include <QRegularExpression>
 
 #include "base/dialogs.h"
 #include "base/text.h"
@@ -44,8 +43,11 @@ std::optional<std::string> TextToSave(const QString& typed) {
     return std::nullopt;
 }
 
-QString OnOneLine(QString text) {
-    return text.replace(QRegularExpression(QStringLiteral("[\\r\\n]+")), QStringLiteral(" "));
+std::optional<std::string> LineToSave(const QString& typed) {
+    QString line = typed;
+    line.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    for (const char16_t lineBreak : {u'\r', u'\n'}) line.replace(QChar(lineBreak), QLatin1Char(' '));
+    return TextToSave(line);
 }
 
 QString FromPath(const std::string& utf8) { return QString::fromStdString(utf8); }

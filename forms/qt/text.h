@@ -17,8 +17,8 @@ std::string ToText(const QString& shown);
 /// decomposed accents are the same.
 std::optional<std::string> TextToSave(const QString& typed);
 
-/// The text as a box of one line shows it: pasted line breaks are blanks.
-QString OnOneLine(QString text);
+/// The same for what is saved as one line: a text that was pasted may hold line breaks, which the box shows as blanks.
+std::optional<std::string> LineToSave(const QString& typed);
 
 QString FromPath(const std::string& utf8);
 

@@ -53,7 +53,7 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
     QTest::keyClick(window->txtDesc, Qt::Key_Return);
     dialogs.expect("\xE2\x98\x83");
     window->cmdSave->click();
-    window->txtDesc->setText(QStringLiteral("New\nYear"));
+    window->txtDesc->setText(QStringLiteral("New Year"));
     window->cmdSave->click();
     EXPECT_EQ(Text(window->lstHolidays, 0), QStringLiteral("01/01/26:New Year"));
     dialogs.expect("There is no Holiday List for 2008");
@@ -221,8 +221,16 @@ TEST_F(ReminderWindows, TheMainWindowShowsWhatIsPending) {
     main.lstBirthdays->setCurrentRow(0);
     EXPECT_EQ(main.lblBirthdayDate->text(), QStringLiteral("Date = 11/24/26"));
     EXPECT_EQ(main.imgBDay->toolTip(), QStringLiteral("1 Birthday is Pending"));
-    QTest::mouseClick(main.cmdAlert, Qt::RightButton);
-    EXPECT_EQ(main.cmdAlert->text(), QStringLiteral("Alerts Ignored"));
+    QContextMenuEvent menuKey(QContextMenuEvent::Keyboard, QPoint(), QPoint());
+    for (const bool keyboard : {true, false}) {
+        ReadAlerts();
+        EXPECT_EQ(main.cmdAlert->text(), QStringLiteral("1 Pending Alert"));
+        if (keyboard)
+            QCoreApplication::sendEvent(main.cmdAlert, &menuKey);
+        else
+            QTest::mouseClick(main.cmdAlert, Qt::RightButton);
+        EXPECT_EQ(main.cmdAlert->text(), QStringLiteral("Alerts Ignored"));
+    }
     QTest::mouseClick(main.cmdAlert, Qt::LeftButton);
     ASSERT_NE(OpenedWindow<frmAlert>(), nullptr);
     EXPECT_TRUE(ViewPendingAlerts);
