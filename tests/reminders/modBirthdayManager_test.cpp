@@ -61,6 +61,7 @@ TEST_F(BirthdayManager, ListsByMonthAndByName) {
     open("12/01:-1:Zoe Adler:****\r\n01/02:00:Ben Z\xFCrn:1990\r\n11/23:03:Ana Brown:1980\r\n");
     EXPECT_EQ(BirthdayListTitle(), "Birthday Management - Viewing Pending");
     EXPECT_EQ(BirthdayList.byMonth, std::vector<std::string>{"11/23/1980\tAna Brown\t\t\t\xE0\x32"});
+    EXPECT_EQ(PendingBirthdayEntries.size(), 1U) << "the main window's list follows the reading";
     ViewBirthdays(false);
     EXPECT_EQ(BirthdayListTitle(), "Birthday Management - Viewing All");
     EXPECT_EQ(BirthdayList.byMonth[0], "01/02/1990\tBen Z\xFCrn\t\t\t\xE0\x31");
