@@ -283,7 +283,7 @@ void frmColors::cmdSave_Click() {
     ByCategory<MarkerLabel> edited;
     for (int k = 0; k < CategoryCount; ++k) {
         const ColorPatch* label = lblMarker[At(k)];
-        const auto caption = TextToSave(label->text());
+        const auto caption = LineToSave(label->text());
         if (!caption) {
             lblMarker_Click(k);
             return;

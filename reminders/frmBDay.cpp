@@ -259,7 +259,7 @@ void frmBDay::proposeNew(Date date) {
 
 void frmBDay::cmdSave_Click() {
     dateLeft_->cancel();
-    const auto name = TextToSave(txt[0]->text());
+    const auto name = LineToSave(txt[0]->text());
     if (!name) return txt[0]->setFocus();
     BirthdayEdit edit = typed();
     edit.name = *name;

@@ -140,7 +140,7 @@ void frmHolidays::lstHolidays_Click(int entry) {
 }
 
 void frmHolidays::cmdSave_Click() {
-    const auto description = TextToSave(txtDesc->text());
+    const auto description = LineToSave(txtDesc->text());
     if (!description) return focusOn(txtDesc);
     switch (SaveHoliday(ToText(txtDate->text()), *description)) {
         case HolidayField::Date:

@@ -43,6 +43,13 @@ std::optional<std::string> TextToSave(const QString& typed) {
     return std::nullopt;
 }
 
+std::optional<std::string> LineToSave(const QString& typed) {
+    QString line = typed;
+    line.replace(QStringLiteral("\r\n"), QStringLiteral(" "));
+    for (const char16_t lineBreak : {u'\r', u'\n'}) line.replace(QChar(lineBreak), QLatin1Char(' '));
+    return TextToSave(line);
+}
+
 QString FromPath(const std::string& utf8) { return QString::fromStdString(utf8); }
 
 void ShowFitting(QLabel* label, const QString& text) {

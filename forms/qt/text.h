@@ -17,6 +17,9 @@ std::string ToText(const QString& shown);
 /// decomposed accents are the same.
 std::optional<std::string> TextToSave(const QString& typed);
 
+/// The same for what is saved as one line: a text that was pasted may hold line breaks, which the box shows as blanks.
+std::optional<std::string> LineToSave(const QString& typed);
+
 QString FromPath(const std::string& utf8);
 
 /// Shows as much of the text on the label as fits its width; where that is not all, the whole text is its tool tip.
