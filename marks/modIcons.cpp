@@ -102,15 +102,19 @@ void ReadTagLines() {
         IconTagLines.at(At(number - 1)) = line;
     });
     if (lines != PaletteSize) MarkNotFullyRead(path);
-    if (lines < PaletteSize) throw Error(InputPastEnd);
+    if (lines < PaletteSize) throw OfFile(Error(InputPastEnd), path);
     Icons.tags = IconState::Tags::Read;
 }
 
 void LoadLibraryPicture(int picture) {
-    if (LoadPicture)
-        LoadPicture(picture);
-    else if (!FileExists(PathInFolder(DataFolder(), "Images"), std::to_string(picture) + ".ico"))
-        throw Error(FileNotFound);
+    try {
+        if (LoadPicture)
+            LoadPicture(picture);
+        else if (!FileExists(PathInFolder(DataFolder(), "Images"), std::to_string(picture) + ".ico"))
+            throw Error(FileNotFound);
+    } catch (const Error& error) {
+        throw OfFile(error, PictureFile(picture));  // which of so many
+    }
 }
 
 /// Loads the pictures; the first that fails is thrown after the others are loaded. One that failed before is not tried

@@ -82,7 +82,7 @@ TEST_F(IconWindows, ASecondShowingReadsNoFile) {
 TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     folder.put("Images/7.ico", "no picture at all");
     std::filesystem::remove(folder.path() / "Images" / "9.ico");
-    boxes.expect("An error occurred in ReadIconTags.");
+    boxes.expect("(the file \"Images\\7.ico\")");
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     palette->grab();
