@@ -56,7 +56,6 @@ frmDateDiff::frmDateDiff() : Window("frmDateDiff", QStringLiteral("Date Differen
     }
     cmdDateDiff = Named(new QPushButton(QStringLiteral("Calculate Date Difference Now")), QStringLiteral("cmdDateDiff"),
                         QStringLiteral("Calculate Date Difference Now"));
-    cmdDateDiff->setAutoDefault(true);  // pressed by Enter as well
     txtAnswer = Named(new QLineEdit, QStringLiteral("txtAnswer"), QStringLiteral("Date difference"));
     txtAnswer->setReadOnly(true);
     layOut();
