@@ -69,7 +69,7 @@ Path PathInFolder(const Path& folder, std::string_view name) {
 
 void ReadDataLines(const Path& path, const std::function<void(std::string_view, int)>& take) {
     MarkNotFullyRead(path);
-    std::string bytes = ReadWholeFile(path);
+    std::string bytes = ReadNamedFile(path);
     int number = 0;
     try {
         for (std::string_view rest = bytes; !rest.empty();) take(TakeLine(rest), ++number);
@@ -79,11 +79,26 @@ void ReadDataLines(const Path& path, const std::function<void(std::string_view, 
     KnownFiles[KeyOf(path)] = std::move(bytes);
 }
 
-Error AtLine(const Error& error, const Path& path, int number) {
+namespace {
+Error AtPlace(const Error& error, const std::string& place, const Path& path) {
     std::string name = TextOfPath(path.lexically_relative(DataFolder()));
     std::replace(name.begin(), name.end(), '/', '\\');
-    return {error.number(),
-            std::string(error.what()) + " (line " + std::to_string(number) + " of the file \"" + name + "\")"};
+    return {error.number(), error.what() + (" (" + place) + "the file \"" + name + "\")"};
+}
+}  // namespace
+
+Error AtLine(const Error& error, const Path& path, int number) {
+    return AtPlace(error, "line " + std::to_string(number) + " of ", path);
+}
+
+Error OfFile(const Error& error, const Path& path) { return AtPlace(error, "", path); }
+
+std::string ReadNamedFile(const Path& path) {
+    try {
+        return ReadWholeFile(path);
+    } catch (const Error& error) {
+        throw OfFile(error, path);
+    }
 }
 
 void MarkNotFullyRead(const Path& path) { KnownFiles.erase(KeyOf(path)); }

@@ -64,6 +64,10 @@ void ReadDataLines(const Path& path, const std::function<void(std::string_view l
 
 /// The error with the place it came from in its description: 'Type mismatch (line 2 of the file "2009\Notes.dat")'.
 Error AtLine(const Error& error, const Path& path, int number);
+/// The same for what is wrong with a whole file: 'File not found (the file "Images\9.ico")'.
+Error OfFile(const Error& error, const Path& path);
+/// ReadWholeFile, with the errors that OfFile makes.
+std::string ReadNamedFile(const Path& path);
 
 /// Marks a file as holding something that the tables do not: a line that was passed over, say.
 void MarkNotFullyRead(const Path& path);

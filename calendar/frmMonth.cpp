@@ -1,6 +1,9 @@
 // The one-month view.
 #include "calendar/frmMonth.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWheelEvent>
 #include <utility>
 
 #include "calendar/modNavigation.h"
@@ -105,6 +108,23 @@ void frmMonth::layOutLeftPanel() {
 }
 
 void frmMonth::VScroll1_Change(int value) { picTTT->move(0, -static_cast<int>(value / 15.0 * zoom())); }
+
+void frmMonth::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_T && event->modifiers() == Qt::ControlModifier && TemplateMode)
+        SaveTemplateIcons();
+    else if (event->key() == Qt::Key_PageDown)
+        VScroll1->triggerAction(QAbstractSlider::SliderPageStepAdd);
+    else if (event->key() == Qt::Key_PageUp)
+        VScroll1->triggerAction(QAbstractSlider::SliderPageStepSub);
+    else
+        MonthsWindow::keyPressEvent(event);
+}
+
+/// Over the labels the wheel moves them, as it does over the bar beside them.
+void frmMonth::wheelEvent(QWheelEvent* event) {
+    const QPoint place = picLeft->mapFrom(this, event->position().toPoint());
+    if (picLeft->isVisible() && picLeft->rect().contains(place)) QCoreApplication::sendEvent(VScroll1, event);
+}
 
 void frmMonth::goNext() { ShowNeighbourMonth(1); }
 void frmMonth::goPrevious() { ShowNeighbourMonth(-1); }

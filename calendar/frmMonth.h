@@ -21,6 +21,8 @@ class frmMonth : public MonthsWindow {
     void layOut() override;
     void goNext() override;
     void goPrevious() override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
   private:
     void buildLeftPanel();

@@ -9,6 +9,7 @@
 #include "calendar/modSelection.h"
 #include "calendar/modShell.h"
 #include "forms/qt/text.h"
+#include "marks/modIcons.h"
 #include "notes/modNotes.h"
 
 MonthPicture::MonthPicture(QWidget* parent, int index) : PictureBox(parent), index_(index) {
@@ -45,6 +46,7 @@ void MonthPicture::mousePressEvent(QMouseEvent* event) {
 void MonthPicture::openMenuOfSelection() {
     const ShownMonth* month = shown();
     if (month == nullptr || !SelectForMenu(*month, SelectedCell.column + 0.5, SelectedCell.row + 1.25)) return;
+    if (CalendarView == 1) Tell(Shell.enableItem, "mnuOptDateRemoveIcon", SelectIconOf(SelectedDate));
     const QRect cell = fromScale(QRectF(SelectedCell.column, SelectedCell.row + 0.75, 1, 1));
     const QPoint place = mapToGlobal(cell.center());
     Tell(Shell.popUpDateOptions, place.x(), place.y());

@@ -46,5 +46,6 @@ void ShowNeighbourYear(int direction) {
 
 void OpenShownMonth(int index) {
     const ShownMonth month = ShownMonths.at(static_cast<std::size_t>(index));
-    Navigate("cmdMonth_Click", Show1MonthCalendar, [&month] { return MakeDate(month.year, month.month + 1, 1); });
+    Navigate(CalendarView == 6 ? "cmdView_Click" : "cmdMonth_Click", Show1MonthCalendar,
+             [&month] { return MakeDate(month.year, month.month + 1, 1); });
 }

@@ -93,6 +93,7 @@ bool SelectAt(const ShownMonth& shown, double x, double y) {
         return false;
     }
     SelectDate(DateAt(shown, cell));
+    ForgetSelectedIcon();
     Calendar.typedInDate = SelectedDate;
     Calendar.typedIn = true;
     EnableMarkItems(shown.slot, cell);

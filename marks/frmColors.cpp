@@ -164,8 +164,6 @@ void frmColors::makeControls() {
     connect(txtEdit, &QLineEdit::textChanged, this, [this] { txtEdit_Change(); });
     cmdSave = Named(new QPushButton(QStringLiteral("&Save Changes and Exit")), QStringLiteral("cmdSave"));
     cmdExit = Named(new QPushButton(QStringLiteral("E&xit Without Saving")), QStringLiteral("cmdExit"));
-    cmdSave->setAutoDefault(true);
-    cmdExit->setAutoDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
     connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
     new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
@@ -283,7 +281,7 @@ void frmColors::cmdSave_Click() {
     ByCategory<MarkerLabel> edited;
     for (int k = 0; k < CategoryCount; ++k) {
         const ColorPatch* label = lblMarker[At(k)];
-        const auto caption = TextToSave(label->text());
+        const auto caption = LineToSave(label->text());
         if (!caption) {
             lblMarker_Click(k);
             return;

@@ -74,7 +74,7 @@ void frmIconTag::imgIcon_Click(int picture) {
 }
 
 void frmIconTag::cmdSave_Click() {
-    const auto caption = TextToSave(txtTag->text());
+    const auto caption = LineToSave(txtTag->text());
     if (!caption || !ChangePaletteSlot(slot_, *caption, picture_)) return;
     if (auto* palette = OpenedWindow<frmIcons>()) palette->ReassignIconTags();
     close();

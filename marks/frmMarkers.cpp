@@ -59,7 +59,6 @@ void frmMarkers::makeControls() {
     cmdExit = Named(new QPushButton(QStringLiteral("E&xit")), QStringLiteral("cmdExit"));
     connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
     connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
-    for (QPushButton* button : {cmdCheck[0], cmdCheck[1], cmdSave, cmdExit}) button->setAutoDefault(true);
     new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
 }
 

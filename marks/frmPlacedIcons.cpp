@@ -140,6 +140,7 @@ void PlacedIcons::picIcon_MouseDown(int index, QMouseEvent* event) {
     const QPointF point = picMonth->toScale(placeOf(index).center());
     SelectForMenu(ShownMonths.front(), point.x(), point.y());
     Q_EMIT selected();
+    Icons.currentIcon = index;  // selecting the day has made it forgotten
     Tell(Shell.enableItem, "mnuOptDateRemoveIcon", true);
     Tell(Shell.popUpDateOptions, pressedAt_.x(), pressedAt_.y());
 }

@@ -86,7 +86,7 @@ void ReadColorsFile() {
         count = number;
     });
     if (count < CategoryCount || !asWeWriteIt) MarkNotFullyRead(path);
-    if (count < CategoryCount) throw Error(InputPastEnd);
+    if (count < CategoryCount) throw OfFile(Error(InputPastEnd), path);
     MarkersLoaded = true;
 }
 

@@ -102,15 +102,19 @@ void ReadTagLines() {
         IconTagLines.at(At(number - 1)) = line;
     });
     if (lines != PaletteSize) MarkNotFullyRead(path);
-    if (lines < PaletteSize) throw Error(InputPastEnd);
+    if (lines < PaletteSize) throw OfFile(Error(InputPastEnd), path);
     Icons.tags = IconState::Tags::Read;
 }
 
 void LoadLibraryPicture(int picture) {
-    if (LoadPicture)
-        LoadPicture(picture);
-    else if (!FileExists(PathInFolder(DataFolder(), "Images"), std::to_string(picture) + ".ico"))
-        throw Error(FileNotFound);
+    try {
+        if (LoadPicture)
+            LoadPicture(picture);
+        else if (!FileExists(PathInFolder(DataFolder(), "Images"), std::to_string(picture) + ".ico"))
+            throw Error(FileNotFound);
+    } catch (const Error& error) {
+        throw OfFile(error, PictureFile(picture));  // which of so many
+    }
 }
 
 /// Loads the pictures; the first that fails is thrown after the others are loaded. One that failed before is not tried
@@ -165,10 +169,14 @@ bool SaveIconTags() {
 }
 
 bool ChangePaletteSlot(int slot, const std::string& caption, int picture) {
+    const IconState before = Icons;
     SetPaletteSlot(slot, picture, caption);
-    const bool saved = SaveIconTags();
+    if (!SaveIconTags()) {
+        Icons = before;
+        return false;
+    }
     Run(ShowPlacedIcons);
-    return saved;
+    return true;
 }
 
 int PictureOfSlot(int slot) {
@@ -523,11 +531,27 @@ void DropIcon(double x, double y) {
     Run(ShowPlacedIcons);
 }
 
+void ForgetSelectedIcon() { Icons.currentIcon = -1; }
+
+bool SelectIconOf(Date date) {
+    ForgetSelectedIcon();
+    int lastSlot = -1;
+    for (std::size_t i = 0; i < IconPool.size(); ++i) {
+        if (!IconPool[i].visible) continue;
+        const IconLine line = IconLineOf(IconPool[i].tag);
+        if (*Icons.month + line.day != date || line.slot < lastSlot) continue;
+        lastSlot = line.slot;
+        Icons.currentIcon = static_cast<int>(i);
+    }
+    return Icons.currentIcon >= 0;
+}
+
 void RemoveSelectedIcon() {
     const auto icon = static_cast<std::size_t>(Icons.currentIcon);
     if (Icons.currentIcon < 0 || icon >= IconPool.size() || IconPool[icon].free) return;
     LinesInUse().at(icon).clear();
     IconPool[icon] = {};
+    ForgetSelectedIcon();  // the next icon placed may get this control
     CountLines();
     CountSlots();
     IconsChanged = true;

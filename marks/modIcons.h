@@ -112,7 +112,8 @@ void ReadIconTags();
 /// Rewrites "Icon Tags.dat". A failure is reported, and the file is then as it was. True if it was written.
 bool SaveIconTags();
 
-/// Gives a palette slot (0..95) another caption and picture (0..143), and saves.
+/// Gives a palette slot (0..95) another caption and picture (0..143), and saves. False after a failure, which is
+/// reported; the slot then keeps what it had.
 bool ChangePaletteSlot(int slot, const std::string& caption, int picture);
 
 /// The picture number of a palette slot: 0..999 from the file, its own number before that.
@@ -176,6 +177,10 @@ void DropIcon(double x, double y);
 /// A drag ended elsewhere: a placed icon stays where it was.
 void CancelDrag();
 
+/// No icon is the current one any more: a day was selected after it.
+void ForgetSelectedIcon();
+/// Makes the last of the icons on a day of the month the current one, for who has no pointer. False if there is none.
+bool SelectIconOf(Date date);
 /// "Remove Selected Icon": the current one.
 void RemoveSelectedIcon();
 /// "Remove All Icons", after a question.

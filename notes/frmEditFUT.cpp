@@ -40,6 +40,6 @@ void frmEditFUT::edit(const std::string& term) {
 }
 
 void frmEditFUT::cmdSave_Click() {
-    const auto text = TextToSave(txtEditFUT->text());
+    const auto text = LineToSave(txtEditFUT->text());
     if (text && ChangeTerm(term_, *text)) close();
 }

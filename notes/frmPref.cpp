@@ -35,8 +35,6 @@ void frmPref::makeControls() {
                            QStringLiteral("chkMinimizeFUT"));
     cmdSave = Named(new QPushButton(QStringLiteral("&Save and Exit")), QStringLiteral("cmdSave"));
     cmdExit = Named(new QPushButton(QStringLiteral("E&xit without Saving")), QStringLiteral("cmdExit"));
-    cmdSave->setAutoDefault(true);
-    cmdExit->setAutoDefault(true);
     connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
     connect(cmdExit, &QPushButton::clicked, this, [this] { cmdExit_Click(); });
     connect(txtStartPos, &QLineEdit::returnPressed, this, [this] { cmdSave_Click(); });

@@ -46,7 +46,7 @@ void SplitTopics(std::string_view all) {
 
 void ReadHelpTopics() {
     HelpTopics = {};
-    const std::string all = ReadWholeFile(DataPath("Help_Topics.txt"));
+    const std::string all = ReadNamedFile(DataPath("Help_Topics.txt"));
     try {
         SplitTopics(all);
     } catch (const Error&) {

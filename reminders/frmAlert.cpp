@@ -89,7 +89,6 @@ void frmAlert::makeMessageAndLists() {
     cmdSave[0] = Named(new QPushButton(QStringLiteral("Save and &Continue")), ElementName("cmdSave", 0));
     cmdSave[1] = Named(new QPushButton(QStringLiteral("&Save and Exit")), ElementName("cmdSave", 1));
     cmdDelete = Named(new QPushButton(QStringLiteral("&Delete Selected from List")), QStringLiteral("cmdDelete"));
-    for (QPushButton* button : {cmdSave[0], cmdSave[1], cmdDelete}) button->setAutoDefault(true);
 }
 
 void frmAlert::connectControls() {

@@ -67,7 +67,6 @@ void frmBDay::makeEdits() {
     chkRememberAge->setToolTip(QStringLiteral("Keep the year of birth"));
     lblAge = Named(new QLabel(QStringLiteral("Age")), QStringLiteral("lblAge"));
     cmdSave = Named(new QPushButton(QStringLiteral("&Save")), QStringLiteral("cmdSave"));
-    cmdSave->setAutoDefault(true);
     dateLeft_ = new Leaving(txt[1], [this] { txt_LostFocus(); });
     connect(txt[0], &QLineEdit::returnPressed, this, [this] { txt[1]->setFocus(); });
     connect(txt[1], &QLineEdit::returnPressed, this, [this] { cmdSave->setFocus(); });
@@ -103,7 +102,6 @@ void frmBDay::makeLists() {
     cmdDelete = Named(new QPushButton(QStringLiteral("&Delete Selected")), QStringLiteral("cmdDelete"));
     cmdClear = Named(new QPushButton(QStringLiteral("De-Se&lect All")), QStringLiteral("cmdClear"));
     cmdSort = Named(new QPushButton(QStringLiteral("Sort by &Name")), QStringLiteral("cmdSort"));
-    for (QPushButton* button : {cmdDelete, cmdClear, cmdSort}) button->setAutoDefault(true);
     connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
     connect(cmdClear, &QPushButton::clicked, this, [this] { cmdClear_Click(); });
     connect(cmdSort, &QPushButton::clicked, this, [this] { cmdSort_Click(); });

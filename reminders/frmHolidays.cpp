@@ -40,7 +40,6 @@ void frmHolidays::makeControls() {
     cmdSave = Named(new QPushButton(QStringLiteral("&Save and Update List")), QStringLiteral("cmdSave"));
     cmdDelete = Named(new QPushButton(QStringLiteral("&Remove this Holiday")), QStringLiteral("cmdDelete"));
     cmdAddNew = Named(new QPushButton(QStringLiteral("&Insert New Holiday")), QStringLiteral("cmdAddNew"));
-    for (QPushButton* button : {cmdSave, cmdDelete, cmdAddNew}) button->setAutoDefault(true);
     connect(cmbYear, &QComboBox::textActivated, this, [this] { cmbYear_Click(); });
     connect(lstHolidays, &QListWidget::itemSelectionChanged, this,
             [this] { lstHolidays_Click(SelectedRow(lstHolidays)); });

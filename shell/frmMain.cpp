@@ -289,9 +289,10 @@ void frmMain::fillShellCalls() {
     Shell.setCaption = [this](const std::string& caption) { setWindowTitle(FromText(caption)); };
     Shell.enableItem = [this](const char* item, bool enabled) { menus_.enable(QString::fromLatin1(item), enabled); };
     Shell.showInPickers = [this](Date date) {
-        cmbMonth->setEditText(FromText(FormatDate(date, "mmmm")));
-        cmbDay->setEditText(FromText(FormatDate(date, "d")));
-        cmbYear->setEditText(FromText(FormatDate(date, "yyyy")));
+        ShowInBox(cmbMonth, MonthOf(date) - 1, FromText(FormatDate(date, "mmmm")));
+        ShowInBox(cmbDay, DayOf(date) - 1, FromText(FormatDate(date, "d")));
+        const QString year = FromText(FormatDate(date, "yyyy"));
+        ShowInBox(cmbYear, cmbYear->findText(year), year);
         for (auto* box : {cmbMonth, cmbDay, cmbYear}) box->lineEdit()->deselect();
     };
     Shell.dateOfPickers = [this] {

@@ -84,9 +84,7 @@ void frmAlarm::buildMenus() {
 
 void frmAlarm::makeButtons() {
     const auto button = [](const QString& name, const QString& caption, const QString& spoken) {
-        auto* made = Named(new QPushButton(caption), name, spoken);
-        made->setAutoDefault(true);  // pressed by Enter as well
-        return made;
+        return Named(new QPushButton(caption), name, spoken);
     };
     for (int i = 0; i < 12; ++i) {
         const auto at = static_cast<std::size_t>(i);

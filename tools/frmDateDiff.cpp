@@ -8,6 +8,7 @@
 
 #include "base/clock.h"
 #include "base/dialogs.h"
+#include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "shell/modErrors.h"
 #include "tools/modDateDiff.h"
@@ -32,9 +33,9 @@ void AddNumbers(QComboBox* box, int first, int last) {
     for (int number = first; number <= last; ++number) box->addItem(QString::number(number));
 }
 
-void SetQuietly(QComboBox* box, const std::string& text) {
+void SetQuietly(QComboBox* box, int entry, const std::string& text) {
     const QSignalBlocker quiet(box);
-    box->setCurrentText(FromText(text));
+    ShowInBox(box, entry, FromText(text));
 }
 }  // namespace
 
@@ -55,7 +56,6 @@ frmDateDiff::frmDateDiff() : Window("frmDateDiff", QStringLiteral("Date Differen
     }
     cmdDateDiff = Named(new QPushButton(QStringLiteral("Calculate Date Difference Now")), QStringLiteral("cmdDateDiff"),
                         QStringLiteral("Calculate Date Difference Now"));
-    cmdDateDiff->setAutoDefault(true);  // pressed by Enter as well
     txtAnswer = Named(new QLineEdit, QStringLiteral("txtAnswer"), QStringLiteral("Date difference"));
     txtAnswer->setReadOnly(true);
     layOut();
@@ -136,9 +136,10 @@ void frmDateDiff::txtInput_LostFocus(int group) {
     const auto date = ReadDate(ToText(txtInput[At(group)]->text()));
     if (!date) return;
     txtInput[At(group)]->setText(FromText(DateBoxText(*date)));
-    SetQuietly(cmbMonth[At(group)], FormatDate(*date, "mmmm"));
-    SetQuietly(cmbDay[At(group)], FormatDate(*date, "dd"));
-    SetQuietly(cmbYear[At(group)], FormatDate(*date, "yyyy"));
+    const std::string year = FormatDate(*date, "yyyy");
+    SetQuietly(cmbMonth[At(group)], MonthOf(*date) - 1, FormatDate(*date, "mmmm"));
+    SetQuietly(cmbDay[At(group)], DayOf(*date) - 1, FormatDate(*date, "dd"));
+    SetQuietly(cmbYear[At(group)], cmbYear[At(group)]->findText(FromText(year)), year);
 }
 
 /// "Day of Year" has no interval of its own: the one before stays.

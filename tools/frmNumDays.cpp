@@ -51,7 +51,6 @@ frmNumDays::frmNumDays() : Window("frmNumDays", QStringLiteral("Number of Specif
     makeDays();
     cmdGetDays = Named(new QPushButton(QStringLiteral("Show Occurrences")), QStringLiteral("cmdGetDays"),
                        QStringLiteral("Show Occurrences"));
-    cmdGetDays->setAutoDefault(true);  // pressed by Enter as well
     lstDays = Named(new QListView, QStringLiteral("lstDays"), QStringLiteral("Dates found"));
     listed = new QStringListModel(this);
     lstDays->setModel(listed);

@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
+#include <QPushButton>
 #include <QScreen>
 #include <QWindow>
 #include <algorithm>
@@ -30,6 +31,13 @@ Window::Window(const char* name, const QString& caption) {
 
 // A window that stands in another one goes with it, without being closed.
 Window::~Window() { std::erase(OpenWindows(), this); }
+
+bool Window::event(QEvent* event) {
+    // A button that has the focus is pressed by Enter as well as by the space bar.
+    if (event->type() == QEvent::Polish)
+        for (QPushButton* button : findChildren<QPushButton*>()) button->setAutoDefault(true);
+    return QWidget::event(event);
+}
 
 void Window::closeEvent(QCloseEvent* event) {
     if (unloaded_) return;

@@ -28,6 +28,7 @@ class Window : public QWidget {
   protected:
     /// Runs once, after the question and before the window goes.
     virtual void unload() {}
+    bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
   private:

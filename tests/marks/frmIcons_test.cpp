@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QDir>
 #include <QDropEvent>
 #include <QLineEdit>
@@ -81,7 +82,7 @@ TEST_F(IconWindows, ASecondShowingReadsNoFile) {
 TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     folder.put("Images/7.ico", "no picture at all");
     std::filesystem::remove(folder.path() / "Images" / "9.ico");
-    boxes.expect("An error occurred in ReadIconTags.");
+    boxes.expect("(the file \"Images\\7.ico\")");
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     palette->grab();
@@ -107,7 +108,14 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), manager);
 
-    caption->setText(QStringLiteral("Dr. Müller: teeth"));
+    QGuiApplication::clipboard()->setText(QStringLiteral("Dr. Müller:\r\nteeth"));
+    caption->selectAll();
+    caption->paste();
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    boxes.expect("An error occurred in SaveIconTags.");
+    save->click();
+    EXPECT_EQ(IconCaption[12], "Dentist") << "what was not saved is not shown";
+    SetDisk({});
     QTest::mouseClick(Find<IconImage>(manager, QStringLiteral("imgIcon(143)")), Qt::LeftButton);
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), nullptr);

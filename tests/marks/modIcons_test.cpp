@@ -165,11 +165,12 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
 TEST_F(IconsTest, RemovedControlsAreUsedAgain) {
     folder.put("2026/Apr_Icons.dat", "06:00 Index:41\r\n06:01 Index:42\r\n07:00 Index:43\r\n");
     Draw(2026, 4);
-    Icons.currentIcon = 1;
+    EXPECT_FALSE(SelectIconOf(MakeDate(2026, 4, 9)));
+    EXPECT_TRUE(SelectIconOf(MakeDate(2026, 4, 7)));
     RemoveSelectedIcon();
-    RemoveSelectedIcon();  // gone already
     EXPECT_EQ(MonthIconCount, 2);
     DropFromPalette(50, MakeDate(2026, 4, 7));
+    RemoveSelectedIcon();  // it is gone already, and the new one was not selected
     EXPECT_EQ(Visible(), "06:00 Index:41|06:01 Index:50|07:00 Index:43|");
 
     boxes.expect("remove all icons for the entire month", Answer::No);

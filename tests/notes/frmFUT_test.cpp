@@ -65,7 +65,7 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     window->cmdOpt[1]->click();
     auto* edit = OpenedWindow<frmEditFUT>();
     EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
-    edit->txtEditFUT->setText(QStringLiteral("animal doctor"));
+    edit->txtEditFUT->setText(QStringLiteral("animal\ndoctor"));
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
     boxes.expect("SaveFrequentlyUsedTerms");
     edit->cmdSave->click();

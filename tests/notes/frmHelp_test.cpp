@@ -63,7 +63,7 @@ TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
         window->cmdSearch[0]->click();
         EXPECT_EQ(window->lstHelp->currentRow(), 1);
         EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("Calendar VIEW"));
-        again->click();
+        QTest::keyClick(again, Qt::Key_Return);
         EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("calendar view"));
         dialogs.expect("End of Search");
         again->click();

@@ -53,7 +53,7 @@ TEST_F(ReminderWindows, HolidaysAreEditedFromTheKeyboard) {
     QTest::keyClick(window->txtDesc, Qt::Key_Return);
     dialogs.expect("\xE2\x98\x83");
     window->cmdSave->click();
-    window->txtDesc->setText(QStringLiteral("New Year"));
+    window->txtDesc->setText(QStringLiteral("New\r\nYear"));
     window->cmdSave->click();
     EXPECT_EQ(Text(window->lstHolidays, 0), QStringLiteral("01/01/26:New Year"));
     dialogs.expect("There is no Holiday List for 2008");
@@ -99,7 +99,7 @@ TEST_F(ReminderWindows, BirthdaysAreSelectedSortedEditedAndDeleted) {
     QTest::keyClick(window->lstData[2], Qt::Key_Down);  // to Young
     EXPECT_TRUE(
         std::none_of(window->optNotify.begin(), window->optNotify.end(), [](auto* o) { return o->isChecked(); }));
-    window->txt[0]->setText(QStringLiteral("Cy Younger"));
+    window->txt[0]->setText(QStringLiteral("Cy\nYounger"));
     window->cmdSave->click();  // the first save is silent
     EXPECT_EQ(folder.get("Birthdays.dat"),
               "01/02:00:Zoe Adler:1990\r\n03/04:-1:Ben Zorn:****\r\n05/06:09:Cy Younger:1950\r\n");

@@ -5,8 +5,10 @@
 
 #include <QLineEdit>
 #include <QMenu>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
+#include <QWheelEvent>
 
 #include "base/clock.h"
 #include "calendar/frmMonth.h"
@@ -168,6 +170,10 @@ TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
     QTest::mouseClick(window_->imgOpt[0], Qt::LeftButton);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 1900 Calendar"));
     EXPECT_FALSE(window_->cmbMonth->lineEdit()->hasSelectedText());
+    QTest::keyClick(window_->cmbMonth, Qt::Key_Down);
+    QTest::keyClick(window_->cmbDay, Qt::Key_Down);
+    EXPECT_EQ(window_->cmbMonth->currentText() + window_->cmbDay->currentText(), QStringLiteral("August2"))
+        << "the arrow keys go on from the date shown";
 }
 
 TEST_F(MainWindowTest, TheYearIsCompletedWhenItsBoxIsLeft) {
@@ -228,6 +234,43 @@ TEST_F(MainWindowTest, TheMenuKeyOpensTheMenuOfTheSelectedDay) {
             EXPECT_EQ(window_->item(QString::fromLatin1(item))->isEnabled(), marked) << item;
         EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateQuickMark"))->isEnabled(), !marked);
     }
+}
+
+TEST_F(MainWindowTest, TheMonthIsWorkedFromTheKeyboard) {
+    std::filesystem::copy(TASMORO_ICONS, folder_.path(), std::filesystem::copy_options::recursive);
+    folder_.put("2026/Nov_Icons.dat", "21:00 Index:03\r\n21:01 Index:04\r\n15:00 Index:05\r\n");
+    QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
+    auto* month = OpenedWindow<frmMonth>();
+    const auto* bar = month->findChild<QScrollBar*>(QStringLiteral("VScroll1"));
+    const auto* labels = month->findChild<QWidget*>(QStringLiteral("picTTT"));
+    QTest::keyClick(month, Qt::Key_PageDown);
+    EXPECT_LT(labels->y(), 0) << "the labels below";
+    QTest::keyClick(month, Qt::Key_PageUp);
+    EXPECT_EQ(labels->y(), 0);
+    const QPointF place(bar->parentWidget()->mapTo(month, QPoint(5, 5)));
+    QWheelEvent wheel(place, month->mapToGlobal(place), {}, {0, -120}, {}, {}, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(month, &wheel);
+    EXPECT_GT(bar->value(), 0);
+
+    QMenu* menu = window_->item(QStringLiteral("mnuDateOptions"))->menu();
+    QAction* remove = window_->item(QStringLiteral("mnuOptDateRemoveIcon"));
+    for (const auto& [key, left] : {std::pair{Qt::Key_Up, 3}, std::pair{Qt::Key_Down, 2}, std::pair{Qt::Key_Up, 2}}) {
+        QTest::keyClick(month, key, Qt::ControlModifier);
+        QTest::keyClick(month, Qt::Key_Menu);
+        ASSERT_TRUE(menu->isVisible());
+        menu->hide();
+        EXPECT_EQ(remove->isEnabled(), key == Qt::Key_Down) << "an icon of the selected day, if it has one";
+        remove->trigger();
+        EXPECT_EQ(MonthIconCount, left);
+    }
+    EXPECT_EQ(MonthIconLines[0], "21:00 Index:03");
+
+    dialogs_.expect("Month Has Changed", Answer::No);
+    dialogs_.expect("Shortcut = CTRL + T");
+    window_->item(QStringLiteral("mnuFileCreateTemplate"))->trigger();
+    dialogs_.expect("Template Saved.");
+    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_T, Qt::ControlModifier);
+    EXPECT_EQ(CalendarView, 12);
 }
 
 TEST_F(MainWindowTest, HoversAreSilentWhileANoteIsOpen) {

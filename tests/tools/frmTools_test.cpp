@@ -39,6 +39,8 @@ TEST_F(ToolWindows, DateBoxesFollowEachOther) {
     EXPECT_EQ(window->txtInput[0]->text(), QStringLiteral("Dec 31, 2008"));
     enter(window->txtInput[1], "1/5/2009");
     EXPECT_EQ(window->cmbDay[1]->currentText(), QStringLiteral("05"));
+    QTest::keyClick(window->cmbDay[1], Qt::Key_Down);
+    EXPECT_EQ(window->txtInput[1]->text(), QStringLiteral("Jan 06, 2009"));
     window->cmdDateDiff->click();
     EXPECT_EQ(window->txtAnswer->text(), QStringLiteral("1"));
 }
