@@ -3,26 +3,13 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
-#include "base/errors.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::string AllBytes() {
     std::string all;
     for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
     return all;
-}
-
-/// The number of the error that the call throws, 0 if it throws none.
-template <class Call>
-int ErrorOf(Call call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
 }
 }  // namespace
 
@@ -73,27 +60,19 @@ TEST(Text, CaseMappingPairsTheLettersThatHaveTwoForms) {
 }
 
 TEST(Text, IsFoundIgnoringCase) {
-    const struct {
+    struct Row {
         const char* text;
         const char* phrase;
         std::size_t from;
         std::size_t at;
-    } rows[] = {{"A Dentist", "DENT", 0, 2},
-                {"xXxy", "xy", 0, 2},
-                {"dDdD", "dd", 1, 1},
-                {"abc", "abcd", 0, std::string::npos},
-                {"abc", "", 3, 3},
-                {"abc", "", 4, std::string::npos},
-                {"\xC9t\xE9", "\xC9", 1, 2},
-                {"12-12", "12", 1, 3},
-                {"aab", "ab", 0, 1},
-                {"abc", "c", 2, 2},
-                {"abc", "a", 1, std::string::npos},
-                {"aaXaaaab", "AAAB", 0, 4},
-                {"abcabcab", "cab", 3, 5},
-                {"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15},
-                {"a calendar viewer", "Calendar View", 2, 2}};
-    for (const auto& [text, phrase, from, at] : rows) EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
+    };
+    for (const auto& [text, phrase, from, at] :
+         {Row{"A Dentist", "DENT", 0, 2}, Row{"xXxy", "xy", 0, 2}, Row{"dDdD", "dd", 1, 1},
+          Row{"abc", "abcd", 0, std::string::npos}, Row{"abc", "", 3, 3}, Row{"abc", "", 4, std::string::npos},
+          Row{"\xC9t\xE9", "\xC9", 1, 2}, Row{"12-12", "12", 1, 3}, Row{"aab", "ab", 0, 1}, Row{"abc", "c", 2, 2},
+          Row{"abc", "a", 1, std::string::npos}, Row{"aaXaaaab", "AAAB", 0, 4}, Row{"abcabcab", "cab", 3, 5},
+          Row{"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15}, Row{"a calendar viewer", "Calendar View", 2, 2}})
+        EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
     for (std::size_t at = 0; at < 300; ++at) {
         const std::string text = std::string(at, 'e') + "Tea" + std::string(299 - at, 'T');
         EXPECT_EQ(FindIgnoringCase(text, "TEA"), at);
@@ -104,32 +83,10 @@ TEST(Text, IsFoundIgnoringCase) {
 }
 
 TEST(Text, ListOrderIsLettersThenAccentsThenCodes) {
-    const std::vector<std::string> ordered{"",
-                                           " a",
-                                           "-",
-                                           "\x80",
-                                           "1",
-                                           "10",
-                                           "2",
-                                           "A",
-                                           "a",
-                                           "AB",
-                                           "ab",
-                                           "\xC4"
-                                           "b",
-                                           "aC",
-                                           "\xC6"
-                                           "a",
-                                           "B",
-                                           "co-op",
-                                           "coat",
-                                           "coop",
-                                           "\xC9",
-                                           "\xE9",
-                                           "Eb",
-                                           "z",
-                                           "\x9E",
-                                           "zz"};
+    const auto ordered = Pieces(
+        "| a|-|\x80|1|10|2|A|a|AB|ab|\xC4"
+        "b|aC|\xC6"
+        "a|B|co-op|coat|coop|\xC9|\xE9|Eb|z|\x9E|zz");
     for (std::size_t i = 0; i < ordered.size(); ++i)
         for (std::size_t j = 0; j < ordered.size(); ++j) {
             const int order = CompareInListOrder(ordered[i], ordered[j]);
@@ -162,26 +119,16 @@ TEST(Text, PiecesStayWithinTheText) {
 }
 
 TEST(Text, NumbersAreReadWholeOrRefused) {
-    const struct {
+    struct Row {
         const char* text;
         std::int64_t value;
         int error;
-    } rows[] = {{"7", 7, 0},
-                {" +7 ", 7, 0},
-                {"007", 7, 0},
-                {"-32768", -32768, 0},
-                {"32767", 32767, 0},
-                {"32768", 0, Overflow},
-                {"-32769", 0, Overflow},
-                {"99999999999999999999", 0, Overflow},
-                {"", 0, TypeMismatch},
-                {" ", 0, TypeMismatch},
-                {"-", 0, TypeMismatch},
-                {"+-7", 0, TypeMismatch},
-                {"7a", 0, TypeMismatch},
-                {"1 2", 0, TypeMismatch},
-                {"1.5", 0, TypeMismatch}};
-    for (const auto& [text, value, error] : rows) {
+    };
+    for (const auto& [text, value, error] :
+         {Row{"7", 7, 0}, Row{" +7 ", 7, 0}, Row{"007", 7, 0}, Row{"-32768", -32768, 0}, Row{"32767", 32767, 0},
+          Row{"32768", 0, Overflow}, Row{"-32769", 0, Overflow}, Row{"99999999999999999999", 0, Overflow},
+          Row{"", 0, TypeMismatch}, Row{" ", 0, TypeMismatch}, Row{"-", 0, TypeMismatch}, Row{"+-7", 0, TypeMismatch},
+          Row{"7a", 0, TypeMismatch}, Row{"1 2", 0, TypeMismatch}, Row{"1.5", 0, TypeMismatch}}) {
         std::int64_t read = 0;
         EXPECT_EQ(ErrorOf([&read, text = text] { read = SmallIntegerValue(text); }), error) << text;
         EXPECT_EQ(read, value) << text;
