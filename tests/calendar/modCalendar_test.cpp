@@ -1,14 +1,10 @@
 // The selected date and the date holders.
 #include "calendar/modCalendar.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class CalendarTest : public testing::Test {
-  protected:
+struct CalendarTest : PlannerTest {
     ~CalendarTest() override { RedrawForDate = {}; }
     /// Makes the date's year the first slot's, with both slots' holders assigned.
     static void show(Date date) {
@@ -22,7 +18,6 @@ class CalendarTest : public testing::Test {
         const auto& found = DateHolders(month, column, row);
         return found.empty() ? "" : std::string(found.view());
     }
-    TemporaryFolder folder;
 };
 }  // namespace
 
@@ -86,8 +81,7 @@ TEST_F(CalendarTest, SlotOfLoadsAYearThatNeitherSlotHolds) {
 }
 
 TEST_F(CalendarTest, AYearWithoutANextOneIsReported) {
-    ScriptedDialogs boxes;
-    boxes.expect("An error occurred in AssignNextYearsDateholders.");
+    dialogs.expect("An error occurred in AssignNextYearsDateholders.");
     show(MakeDate(9999, 12, 31));
     EXPECT_EQ(holder(11, 5, 4), "12/31/99");
 }

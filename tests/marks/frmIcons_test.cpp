@@ -1,8 +1,6 @@
 // The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
 #include "marks/frmIcons.h"
 
-#include <gtest/gtest.h>
-
 #include <QDir>
 #include <QDropEvent>
 #include <QLineEdit>
@@ -12,32 +10,23 @@
 #include <QTest>
 
 #include "base/diskio.h"
-#include "base/errors.h"
 #include "calendar/modPaint.h"
 #include "forms/qt/canvas.h"
 #include "forms/qt/iconPictures.h"
 #include "marks/frmIconTag.h"
 #include "marks/frmPlacedIcons.h"
 #include "marks/modIcons.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-class IconWindows : public testing::Test {
-  protected:
+struct IconWindows : WindowTest {
     IconWindows() { std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive); }
-    ~IconWindows() override {
-        UnloadAllWindows();
-        SetDisk({});
-    }
+    ~IconWindows() override { SetDisk({}); }
 
     template <class Control>
     static Control* Find(const QWidget* window, const QString& name) {
         return window->findChild<Control*>(name);
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
@@ -81,7 +70,7 @@ TEST_F(IconWindows, ASecondShowingReadsNoFile) {
 TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     folder.put("Images/7.ico", "no picture at all");
     std::filesystem::remove(folder.path() / "Images" / "9.ico");
-    boxes.expect("An error occurred in ReadIconTags.");
+    dialogs.expect("An error occurred in ReadIconTags.");
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     palette->grab();
@@ -102,7 +91,7 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     EXPECT_EQ(caption->selectedText(), QStringLiteral("Dentist"));
 
     caption->setText(QString(QChar(0x4E2D)));  // a character that the files do not have
-    boxes.expect("cannot be saved");
+    dialogs.expect("cannot be saved");
     auto* save = Find<QPushButton>(manager, QStringLiteral("cmdSave"));
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), manager);
@@ -118,7 +107,7 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
 
 TEST_F(IconWindows, NothingIsDraggedWithoutAMonth) {
     ShowPaletteWindow();
-    boxes.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
+    dialogs.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
     QTest::mouseClick(Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(0)")), Qt::LeftButton);
     EXPECT_EQ(DragKind, Drag::None);
 }

@@ -1,17 +1,12 @@
 // The window of displayed categories.
 #include "marks/frmMarkers.h"
 
-#include <gtest/gtest.h>
-
 #include "base/text.h"
 #include "marks/modMarkerDisplay.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct MarkersWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct MarkersWindow : WindowTest {
     frmMarkers* window = nullptr;
 
     MarkersWindow() {
@@ -22,7 +17,6 @@ struct MarkersWindow : testing::Test {
         ReadMarkerColors();
         window = ShowWindow<frmMarkers>();
     }
-    ~MarkersWindow() override { UnloadAllWindows(); }
     int checked() const {
         return static_cast<int>(std::count_if(window->chkMarker.begin(), window->chkMarker.end(),
                                               [](const QCheckBox* box) { return box->isChecked(); }));

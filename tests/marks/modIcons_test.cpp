@@ -1,17 +1,12 @@
 // Icons: the lines and files, placing them on real months and on the template's, dropping, moving, removing, saving.
 #include "marks/modIcons.h"
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
 #include "calendar/modCalendar.h"
 #include "marks/modSaveChanges.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class IconsTest : public testing::Test {
-  protected:
+struct IconsTest : PlannerTest {
     IconsTest() {
         std::string tags;
         for (int slot = 0; slot < PaletteSize; ++slot)
@@ -53,9 +48,6 @@ class IconsTest : public testing::Test {
             if (icon.visible) tags += icon.tag + "|";
         return tags;
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(IconsTest, ReadsLinesAndRefusesWhatIsNone) {
@@ -93,7 +85,7 @@ TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
     EXPECT_DOUBLE_EQ(IconPool[0].top, 2.45);
     EXPECT_TRUE(IconSlotUsed[2][6]);
     EXPECT_EQ(IconCaption[41], "Caption 41");
-    boxes.expect("Calendar Saved.");
+    dialogs.expect("Calendar Saved.");
     EXPECT_TRUE(Save1MonthIcons());
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), file);
     EXPECT_EQ(folder.backups(), "");
@@ -123,7 +115,7 @@ TEST_F(IconsTest, TheTemplatesLastDaysFollowTheMonth) {
         Draw(row.year, row.month);
         EXPECT_EQ(Visible(), row.shown) << row.year << "-" << row.month;
     }
-    boxes.expect("Calendar Saved.");
+    dialogs.expect("Calendar Saved.");
     EXPECT_TRUE(Save1MonthIcons());
     EXPECT_EQ(folder.get("2028/Feb_Icons.dat").substr(0, 16), "28:00 Index:01\r\n");  // the month's own day
     Draw(2028, 2);
@@ -136,7 +128,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     for (const int slot : {41, 42, 43, 44}) DropFromPalette(slot, day);
     EXPECT_TRUE(IconsChanged);
     EXPECT_EQ(Visible(), "06:00 Index:41|06:01 Index:42|06:02 Index:43|06:03 Index:44|");
-    boxes.expect("Day Full");
+    dialogs.expect("Day Full");
     DropFromPalette(45, day);
     EXPECT_EQ(IconPool.size(), 4u);
 
@@ -146,7 +138,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     EXPECT_EQ(Visible(), "06:00 Index:41|07:00 Index:42|06:02 Index:43|06:03 Index:44|");
     DropFromPalette(46, day);  // the place that became free
     BeginDragOfIcon(1);
-    boxes.expect("Day Full");
+    dialogs.expect("Day Full");
     DropOn(day);
     BeginDragOfIcon(0);
     DropIcon(0.5, 0.5);  // the header
@@ -156,7 +148,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     EXPECT_TRUE(IconSlotUsed[0][6]);
     EXPECT_EQ(Visible(), "06:00 Index:41|07:00 Index:42|06:02 Index:43|06:03 Index:44|06:01 Index:46|");
 
-    boxes.expect("Calendar Saved.");
+    dialogs.expect("Calendar Saved.");
     EXPECT_TRUE(Save1MonthIcons());
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"),
               "06:00 Index:41\r\n07:00 Index:42\r\n06:02 Index:43\r\n06:03 Index:44\r\n06:01 Index:46\r\n");
@@ -172,13 +164,13 @@ TEST_F(IconsTest, RemovedControlsAreUsedAgain) {
     DropFromPalette(50, MakeDate(2026, 4, 7));
     EXPECT_EQ(Visible(), "06:00 Index:41|06:01 Index:50|07:00 Index:43|");
 
-    boxes.expect("remove all icons for the entire month", Answer::No);
+    dialogs.expect("remove all icons for the entire month", Answer::No);
     RemoveAllIcons();
     EXPECT_EQ(MonthIconCount, 3);
-    boxes.expect("Preparing to remove all Icons", Answer::Yes);
+    dialogs.expect("Preparing to remove all Icons", Answer::Yes);
     RemoveAllIcons();
     EXPECT_EQ(Visible(), "");
-    boxes.expect("Month Has Changed", Answer::No);
+    dialogs.expect("Month Has Changed", Answer::No);
     EXPECT_TRUE(MayGoOn());
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), "06:00 Index:41\r\n06:01 Index:42\r\n07:00 Index:43\r\n");
 }
@@ -188,12 +180,12 @@ TEST_F(IconsTest, UnsavedIconsOutliveRedrawsAndAreAskedAboutOnce) {
     DropFromPalette(41, MakeDate(2026, 4, 7));
     EXPECT_EQ(Draw(2026, 4), MonthIcons::Modified);
     EXPECT_EQ(Visible(), "06:00 Index:41|");
-    boxes.expect("Do you want to save those changes?", Answer::Cancel);
+    dialogs.expect("Do you want to save those changes?", Answer::Cancel);
     EXPECT_FALSE(MayGoOn());
     EXPECT_TRUE(IconsChanged);
     // A drawing that nobody asked about beforehand: April's icons go to April's file.
-    boxes.expect("Do you want to save those changes?", Answer::Yes);
-    boxes.expect("Calendar Saved.");
+    dialogs.expect("Do you want to save those changes?", Answer::Yes);
+    dialogs.expect("Calendar Saved.");
     Draw(2027, 5);
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), "06:00 Index:41\r\n");
     EXPECT_EQ(Visible(), "");
@@ -208,8 +200,8 @@ TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
     DropFromPalette(1, MakeDate(2026, 1, 31));
     EXPECT_EQ(TemplateCount, 1);
     EXPECT_EQ(MonthIconCount, 0);
-    boxes.expect("Month Has Changed", Answer::Yes);
-    boxes.expect("Template Saved.");
+    dialogs.expect("Month Has Changed", Answer::Yes);
+    dialogs.expect("Template Saved.");
     EXPECT_TRUE(MayGoOn(true));
     EXPECT_EQ(folder.get("Template.dat"), "30:00 Index:01\r\n");
 }
@@ -226,10 +218,10 @@ TEST_F(IconsTest, BadFilesAreReportedAndKept) {
                  {"125 lines", full + "00:00 Index:05\r\n", MostIcons}};
     for (const auto& row : files) {
         folder.put("2026/May_Icons.dat", row.file);
-        boxes.expect("An error occurred in Read1MonthIcons.");
+        dialogs.expect("An error occurred in Read1MonthIcons.");
         EXPECT_EQ(Draw(2026, 5), MonthIcons::Modified);
         EXPECT_EQ(MonthIconCount, row.placed) << row.name;
-        boxes.expect("in the folder \"Backup\"");
+        dialogs.expect("in the folder \"Backup\"");
         EXPECT_TRUE(Save1MonthIcons());
         EXPECT_NE(folder.backups().find(row.file), std::string::npos) << row.name;
     }
@@ -239,15 +231,15 @@ TEST_F(IconsTest, ThePaletteReportsOnceAndLosesNothing) {
     folder.put("Icon Tags.dat", "012:Dentist\r\n1x:Doctor\r\n");
     folder.put("2026/May_Icons.dat", "06:00 Index:00\r\n07:00 Index:20\r\n");
     std::filesystem::remove(folder.path() / "Images" / "20.ico");
-    boxes.expect("An error occurred in ReadIconTags.");
+    dialogs.expect("An error occurred in ReadIconTags.");
     Draw(2026, 5);
     Draw(2026, 5);
     EXPECT_EQ(IconCaption[0], "Dentist");
     EXPECT_EQ(PictureOfSlot(0), 12);
     EXPECT_EQ(PictureOfSlot(95), 95);
-    boxes.expect("An error occurred in ReadIconTags.");
+    dialogs.expect("An error occurred in ReadIconTags.");
     ReadIconTags();
-    boxes.expect("in the folder \"Backup\"");
+    dialogs.expect("in the folder \"Backup\"");
     EXPECT_TRUE(ChangePaletteSlot(1, "Doctor: Anna", 143));
     EXPECT_NE(folder.backups().find("1x:Doctor"), std::string::npos);
     EXPECT_EQ(folder.get("Icon Tags.dat").substr(0, 40), "012:Dentist\r\n143:Doctor: Anna\r\n002:\r\n003");

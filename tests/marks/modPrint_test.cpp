@@ -1,20 +1,16 @@
 // The printed month, read from what is drawn on the page.
 #include "marks/modPrint.h"
 
-#include <gtest/gtest.h>
-
 #include <optional>
 
-#include "base/errors.h"
 #include "calendar/modPaint.h"
 #include "forms/printer.h"
 #include "forms/recorder.h"
 #include "tests/marks/month.h"
-#include "tests/support/dialogs.h"
+#include "tests/support/planner.h"
 
 namespace {
-class PrintTest : public testing::Test {
-  protected:
+struct PrintTest : PlannerTest {
     PrintTest() {
         folder.put("Marker Colors.dat", CategoryLines);
         PrinterCalls calls = SetPrinter({});
@@ -43,8 +39,6 @@ class PrintTest : public testing::Test {
         command();
     }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
     std::optional<Recorder> page;  // the last page printed
     std::string printedTitle;
     double unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
@@ -54,7 +48,7 @@ TEST_F(PrintTest, DrawsTheMonth) {
     folder.put("Holidays/2026Holidays.dat", "08/01/26:Swiss Day\r\n08/02/26:Sunday's\r\n");
     folder.put("2026Marks.dat", "07:06:00:8388608-Budget\r\n");
     folder.put("2026/Aug_Icons.dat", "00:03 Index:41\r\n01:00 Index:07\r\n");
-    boxes.expect("An error occurred in ReadIconTags.");  // none is installed here: the pictures are drawn by number
+    dialogs.expect("An error occurred in ReadIconTags.");  // none is installed here: the pictures are drawn by number
     ReadMonth(2026, 8);
     Icons.badPictures.erase(41);
     print();
@@ -95,7 +89,7 @@ TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
     for (const auto& row : lists) {
         PutEntries(folder, row.entries);
         ReadMonth(2026, 7);
-        if (row.entries > row.printed) boxes.expect("first 36 will be printed.");
+        if (row.entries > row.printed) dialogs.expect("first 36 will be printed.");
         print();
         EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(row.printed)) << row.entries;
         EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << row.entries;  // the 18th
@@ -132,11 +126,11 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
 TEST_F(PrintTest, TellsOfPrintersThatAreMissingOrFail) {
     ReadMonth(2026, 7);
     PrinterAvailable = false;
-    boxes.expect("Printer could not be found");
+    dialogs.expect("Printer could not be found");
     print();
     PrinterAvailable = true;
     SetPrinter({});
-    boxes.expect("An error occurred in Print1MonthCalendar.");
+    dialogs.expect("An error occurred in Print1MonthCalendar.");
     print();
     EXPECT_FALSE(page);
 }

@@ -1,8 +1,6 @@
 // The terms window and its dialogs.
 #include "notes/frmFUT.h"
 
-#include <gtest/gtest.h>
-
 #include <QTest>
 
 #include "calendar/modCalendar.h"
@@ -12,11 +10,10 @@
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct TermsWindow : testing::Test {
+struct TermsWindow : WindowTest {
     TermsWindow() {
         InstallNoteEditor();
         Calendar.yearOnDisplay = 2026;
@@ -26,15 +23,10 @@ struct TermsWindow : testing::Test {
         OpenTermsWindow();
         window = OpenedWindow<frmFUT>();
     }
-    ~TermsWindow() override {
-        UnloadAllWindows();
-        NoteEditor = {};
-    }
+    ~TermsWindow() override { NoteEditor = {}; }
     void select(int row) const { window->lstFUT->setCurrentRow(row); }
     std::string title() const { return window->windowTitle().toStdString(); }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
     frmFUT* window = nullptr;
 };
 
@@ -42,10 +34,10 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(title(), "Home");
     window->cmdOpt[0]->click();
     auto* add = OpenedWindow<frmAddFUT>();
-    boxes.expect("No term has been added to save.");
+    dialogs.expect("No term has been added to save.");
     add->cmdSave->click();
     add->txtAddFUT->setPlainText(QStringLiteral("\u4E2D"));
-    boxes.expect("\u4E2D");
+    dialogs.expect("\u4E2D");
     add->cmdSave->click();
     add->txtAddFUT->setPlainText(QStringLiteral("plumber\n electrician "));
     add->cmdSave->click();
@@ -53,9 +45,9 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(window->lstFUT->count(), 4);
     select(-1);
     window->lstFUT->clearSelection();
-    boxes.expect("Nothing selected to edit.");
+    dialogs.expect("Nothing selected to edit.");
     window->cmdOpt[1]->click();
-    boxes.expect("Nothing selected to remove.");
+    dialogs.expect("Nothing selected to remove.");
     window->cmdOpt[3]->click();
     select(3);
     window->cmdOpt[1]->click();

@@ -12,21 +12,17 @@
 #include "reminders/frmBDay.h"
 #include "reminders/frmHolidays.h"
 #include "shell/frmMain.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 #include "tools/frmAlarm.h"
 
 namespace {
-struct HelpWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct HelpWindow : WindowTest {
     HelpPanel panel;
 
     void read(const std::string& file) const {
         folder.put("Help_Topics.txt", file);
         ReadHelpTopics();
     }
-    void TearDown() override { UnloadAllWindows(); }
 };
 }  // namespace
 

@@ -1,8 +1,6 @@
 // The notes editor: typing with completion, saving, closing, searching, printing.
 #include "notes/frmNotes.h"
 
-#include <gtest/gtest.h>
-
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
@@ -18,12 +16,11 @@
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
 #include "tests/support/window_pdf.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct EditorTest : testing::Test {
+struct EditorTest : WindowTest {
     EditorTest() {
         InstallNoteEditor();
         Calendar.yearOnDisplay = 2026;
@@ -31,10 +28,7 @@ struct EditorTest : testing::Test {
         Preferences.termsFile = CurrentTermsFile = "Work.fut";
         AutoStartPosition = 0;
     }
-    ~EditorTest() override {
-        UnloadAllWindows();
-        NoteEditor = {};
-    }
+    ~EditorTest() override { NoteEditor = {}; }
 
     frmNotes* open(int month = 10, int day = 5) {
         SelectDate(MakeDate(2026, month, day));
@@ -58,8 +52,6 @@ struct EditorTest : testing::Test {
     }
     std::string file() const { return folder.get("2026/Notes.dat"); }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
     frmNotes* window = nullptr;
     NoteTextBox* box = nullptr;
 };
@@ -132,7 +124,7 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     box->showNote("");
     box->append(all);
     EXPECT_TRUE(NotesChanged);
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_EQ(file(), "10/05/26:090101:" + EncodedLineBreaks(all) + "\r\n");
     EXPECT_FALSE(NotesChanged);
@@ -141,7 +133,7 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(NotesChanged);  // the text is again what was saved
     box->insertPlainText(QStringLiteral("\u4E2D"));
-    boxes.expect("\u4E2D");
+    dialogs.expect("\u4E2D");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_TRUE(NotesChanged);
     EXPECT_TRUE(box->toPlainText().contains(QChar(0x4E2D)));
@@ -152,7 +144,7 @@ TEST_F(EditorTest, ClosesThroughItsPrompt) {
     const auto change = [&](Answer answer) {
         open();
         type("x");
-        boxes.expect("Text has been changed. Do you want to save the changes?", answer);
+        dialogs.expect("Text has been changed. Do you want to save the changes?", answer);
     };
     change(Answer::Cancel);
     CalendarView = 0;
@@ -160,11 +152,11 @@ TEST_F(EditorTest, ClosesThroughItsPrompt) {
     EXPECT_EQ(OpenedWindow<frmNotes>(), window);
     EXPECT_EQ(CalendarView, 0);
     SelectDate(MakeDate(2026, 3, 1));
-    boxes.expect("Text has been changed", Answer::Cancel);
+    dialogs.expect("Text has been changed", Answer::Cancel);
     DisplayThisNote();
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Notes for October 05, 2026"));
-    boxes.expect("Text has been changed", Answer::Yes);
-    boxes.expect("Notes Saved");
+    dialogs.expect("Text has been changed", Answer::Yes);
+    dialogs.expect("Notes Saved");
     press(Qt::Key_Escape);
     EXPECT_EQ(OpenedWindow<frmNotes>(), nullptr);
     EXPECT_FALSE(NotesWindowOpen);
@@ -172,7 +164,7 @@ TEST_F(EditorTest, ClosesThroughItsPrompt) {
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
     open();
     type("y");
-    boxes.expect("Text has been changed", Answer::No);
+    dialogs.expect("Text has been changed", Answer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
 }
@@ -187,7 +179,7 @@ TEST_F(EditorTest, FindsThePhraseAgainAndAgain) {
     again->trigger();
     again->trigger();
     EXPECT_EQ(shown(), "Lunch\nlunch [LUNCH]");
-    boxes.expect("No more occurences.");
+    dialogs.expect("No more occurences.");
     again->trigger();
     EXPECT_EQ(shown(), "|Lunch\nlunch LUNCH");
     SearchActive = false;
@@ -224,7 +216,7 @@ TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
     for (int i = 0; i < 70; ++i) text += QStringLiteral("line %1\n").arg(i);
     text += QStringLiteral("word ").repeated(60);
     box->insertPlainText(text);
-    boxes.expect("Could not find Printer.");
+    dialogs.expect("Could not find Printer.");
     window->item(QStringLiteral("mnuFilePrint"))->trigger();
     const PdfPrinter printer(QString::fromStdString(folder.path().string()));
     window->item(QStringLiteral("mnuFilePrint"))->trigger();

@@ -1,19 +1,16 @@
 // The notes store: its tables, its files, and what must not get lost in them.
 #include "notes/modNotes.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
 #include "base/diskio.h"
 #include "marks/modSaveChanges.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 /// A year on display, and an editor that holds a text without a window.
-struct NotesTest : testing::Test {
+struct NotesTest : PlannerTest {
     NotesTest() {
         Calendar.yearOnDisplay = 2026;
         NoteEditor = {[this](const std::string& caption, const std::string& text) {
@@ -38,13 +35,11 @@ struct NotesTest : testing::Test {
         DisplayThisNote();
         typed = text;
         NotesChanged = true;
-        boxes.expect("Notes Saved");
+        dialogs.expect("Notes Saved");
         EXPECT_TRUE(SaveOpenNote());
     }
     std::string file(int year = 2026) { return folder.get(std::to_string(year) + "/Notes.dat"); }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
     std::string typed;
     std::string shownCaption;
     bool stays = false;
@@ -89,7 +84,7 @@ TEST_F(NotesTest, AreStoredUnderTheDateTheEditorShows) {
     DisplayThisNote();
     typed = "of March";
     SelectDate(MakeDate(2026, 8, 9));  // a click on another day while the editor is open
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
     EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
 }
@@ -118,13 +113,13 @@ TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
         SCOPED_TRACE(row.name);
         const std::string before = "03/04/26:020300:before\r\n" + row.line + "\r\n07/04/26:060600:after\r\n";
         folder.put("2026/Notes.dat", before);
-        boxes.expect(row.report);
+        dialogs.expect(row.report);
         ReadThisYearsNotes();
-        EXPECT_NE(boxes.shown().back().text.find("line 2 of the file"), std::string::npos);
+        EXPECT_NE(dialogs.shown().back().text.find("line 2 of the file"), std::string::npos);
         EXPECT_EQ(NoteCount(), 1);
         SelectDate(MakeDate(2026, 3, 4));
         DisplayThisNote();
-        boxes.expect("Backup");
+        dialogs.expect("Backup");
         EXPECT_TRUE(SaveOpenNote());
         EXPECT_NE(folder.backups().find(before), std::string::npos);
     }
@@ -148,21 +143,21 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     DisplayThisNote();
     NotesChanged = true;
     typed = "\xD2tto";
-    boxes.expect("turn", Answer::No);
+    dialogs.expect("turn", Answer::No);
     EXPECT_FALSE(SaveOpenNote());
     refuses = true;
     EXPECT_FALSE(SaveOpenNote());
     refuses = false;
     typed = "the disk is full";
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    boxes.expect("SaveThisYearsNotes");
+    dialogs.expect("SaveThisYearsNotes");
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
     SetDisk({});
     typed = "\xD2tto";
-    boxes.expect("turn", Answer::Yes);
-    boxes.expect("Notes Saved");
+    dialogs.expect("turn", Answer::Yes);
+    dialogs.expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
     EXPECT_FALSE(NotesChanged);
 }
@@ -172,7 +167,7 @@ TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
                "12/01/26:110200:c\r\n03/04/26:020300:a\r\n05/01/26:040500:b\r\n03/04/26:020300:a2\r\n");
     ReadThisYearsNotes();
     typed = "open in the editor";
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     DeleteNotes(ThisYear, {"03/04/26", "12/01/26"});
     EXPECT_EQ(file(), "05/01/26:040500:b\r\n");
     EXPECT_EQ(lstNotes, std::vector<std::string>{"05/01/26"});
@@ -198,14 +193,14 @@ TEST_F(NotesTest, AreAskedAboutBeforeTheViewChanges) {
     const auto changed = [&](Answer answer) {
         NotesChanged = true;
         SaveCancelled = false;
-        boxes.expect("The Notes have been changed", answer);
+        dialogs.expect("The Notes have been changed", answer);
     };
     changed(Answer::Cancel);
     AskAboutOpenNote(false);
     EXPECT_TRUE(SaveCancelled && NotesChanged && NotesWindowOpen);
     changed(Answer::Yes);
     typed = "\xD5";
-    boxes.expect("turn", Answer::No);
+    dialogs.expect("turn", Answer::No);
     AskAboutOpenNote(true);
     EXPECT_TRUE(SaveCancelled);
     changed(Answer::No);

@@ -1,16 +1,13 @@
 // Searching the notes of a year, and the day's time line.
 #include "notes/modSearch.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <vector>
 
 #include "base/text.h"
 #include "notes/modNotes.h"
 #include "notes/modTimeLine.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 TEST(Phrase, IsFoundInEitherCaseAndNeverAcrossALineBreak) {
@@ -37,7 +34,7 @@ TEST(Phrase, IsFoundInEitherCaseAndNeverAcrossALineBreak) {
                 << row.phrase << " in " << row.note << " at " << shift;
 }
 
-struct SearchTest : testing::Test {
+struct SearchTest : PlannerTest {
     SearchTest() {
         Calendar.yearOnDisplay = 2026;
         folder.put(
@@ -45,8 +42,6 @@ struct SearchTest : testing::Test {
             "01/08/26:000401:Vet\r\n03/04/26:020300:lunch\r\n03/04/26:020300:and LUNCH\r\n03/09/26:020101:vet\r\n");
         folder.put("2035/Notes.dat", "03/01/35:020400:far away\r\n");
     }
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(SearchTest, ListsDatesOfAYearOrAMonth) {
@@ -72,7 +67,7 @@ TEST_F(SearchTest, OpensAListedNoteOfItsOwnYear) {
     OpenListedNote(2026, "03/09/26");  // listed before the other year came on display
     EXPECT_EQ(shown, "vet");
     EXPECT_EQ(ShortDate(SelectedDate), "3/9/2026");
-    boxes.expect("Couldn't find note to open.");
+    dialogs.expect("Couldn't find note to open.");
     EXPECT_FALSE(OpenListedNote(2026, "03/10/26"));
     NoteEditor = {};
 }
@@ -84,7 +79,7 @@ TEST_F(SearchTest, DeletesListedNotesOnceTheEditorIsClosed) {
     DeleteListedNotes(2026, {"03/04/26"});
     EXPECT_EQ(folder.get("2026/Notes.dat"), before);
     NotesWindowOpen = false;
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     DeleteListedNotes(2026, {"03/04/26", "03/09/26"});
     EXPECT_EQ(folder.get("2026/Notes.dat"), "01/08/26:000401:Vet\r\n");
     NoteEditor = {};

@@ -12,17 +12,12 @@
 #include "reminders/modAlerts.h"
 #include "reminders/modHolidayManager.h"
 #include "shell/frmMain.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct ReminderWindows : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-
+struct ReminderWindows : WindowTest {
     ReminderWindows() { SelectDate(MakeDate(2026, 11, 22)); }
     ~ReminderWindows() override {
-        UnloadAllWindows();
         // What the main window filled goes with it.
         Shell = {};
         ShowAlertIndicator = ShowBirthdayIndicator = ShowPendingAlerts = ShowPendingBirthdays = {};

@@ -1,29 +1,23 @@
 // The alert manager's lists and edits. Today is November 22, 2026: day 46348.
 #include "reminders/modAlertManager.h"
 
-#include <gtest/gtest.h>
-
 #include "calendar/modCalendar.h"
 #include "reminders/modAlerts.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 constexpr const char* Three = "46340:0003:Expired\r\n46348:0000:Today\r\n46400:0100:Later\r\n";
 
-class AlertManager : public testing::Test {
-  protected:
+struct AlertManager : PlannerTest {
     AlertManager() { SelectDate(MakeDate(2026, 11, 22)); }
     void open(std::string_view bytes) {
-        folder_.put("Alerts.dat", bytes);
+        folder.put("Alerts.dat", bytes);
         ReadAlerts();
         OpenAlertList();
     }
     AlertField save(const char* date, const char* period, const char* message) {
         return SaveAlert({date, period, message});
     }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
 };
 
 TEST_F(AlertManager, OpensOnTheFirstAlertOrOnANewOne) {
@@ -48,17 +42,17 @@ TEST_F(AlertManager, OpensOnTheFirstAlertOrOnANewOne) {
 
 TEST_F(AlertManager, SavesOverTheOldOneOrBesideIt) {
     open(Three);
-    dialogs_.expect("Do you want to over-write this alert?", Answer::Cancel);
+    dialogs.expect("Do you want to over-write this alert?", Answer::Cancel);
     EXPECT_EQ(save("12/1/2026", "7", "X"), AlertField::Abandoned);
-    dialogs_.expect("Do you want to over-write this alert?", Answer::Yes);
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Do you want to over-write this alert?", Answer::Yes);
+    dialogs.expect("Alert List Updated.");
     EXPECT_EQ(save("12/1/2026", "7", "X"), AlertField::Saved);
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:Today\r\n46357:0007:X\r\n46400:0100:Later\r\n");
+    EXPECT_EQ(folder.get("Alerts.dat"), "46348:0000:Today\r\n46357:0007:X\r\n46400:0100:Later\r\n");
     SelectAlert(2);
-    dialogs_.expect("Do you want to over-write this alert?", Answer::No);
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Do you want to over-write this alert?", Answer::No);
+    dialogs.expect("Alert List Updated.");
     EXPECT_EQ(save("12/1/2026", "10", "one\r\ntwo"), AlertField::Saved);
-    EXPECT_EQ(folder_.get("Alerts.dat"),
+    EXPECT_EQ(folder.get("Alerts.dat"),
               "46348:0000:Today\r\n46357:0007:X\r\n46357:0010:one\xD5\xD2two\r\n46400:0100:Later\r\n");
     EXPECT_FALSE(AddingNewAlert);
 }
@@ -69,13 +63,13 @@ TEST_F(AlertManager, ActsOnTheRightAlertInThePendingView) {
     EXPECT_EQ(AlertList.messages, (std::vector<std::string>{"Today", "Later"}));
     EXPECT_EQ(AlertList.caption, "Active Alert List: 2 Alerts");
     SelectAlert(1);
-    dialogs_.expect("over-write", Answer::Yes);
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("over-write", Answer::Yes);
+    dialogs.expect("Alert List Updated.");
     EXPECT_EQ(save("1/13/2027", "100", "Changed"), AlertField::Saved);
     SelectAlert(0);
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     DeleteAlert();
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46340:0003:Expired\r\n46400:0100:Changed\r\n");
+    EXPECT_EQ(folder.get("Alerts.dat"), "46340:0003:Expired\r\n46400:0100:Changed\r\n");
 }
 
 TEST_F(AlertManager, RefusesWhatCannotBeKept) {
@@ -93,48 +87,48 @@ TEST_F(AlertManager, RefusesWhatCannotBeKept) {
           Row{"soon", "1", "Date not recognized as entered.", AlertField::Date},
           Row{"5/17/1927", "1", "May 18, 1927", AlertField::Date},
           Row{"10/14/2173", "1", "October 13, 2173", AlertField::Date}}) {
-        dialogs_.expect(row.message);
+        dialogs.expect(row.message);
         EXPECT_EQ(save(row.date, row.period, "X"), row.field) << row.date;
     }
-    dialogs_.expect("line breaks", Answer::No);
+    dialogs.expect("line breaks", Answer::No);
     EXPECT_EQ(save("1/1/2027", "1", "\xD2"), AlertField::Message);
     for (const char* edge : {"5/18/1927", "10/13/2173"}) {
         NewAlert();
-        dialogs_.expect("Alert List Updated.");
+        dialogs.expect("Alert List Updated.");
         EXPECT_EQ(save(edge, "9999", "X"), AlertField::Saved);
     }
-    EXPECT_EQ(folder_.get("Alerts.dat"), "10000:9999:X\r\n99999:9999:X\r\n");
+    EXPECT_EQ(folder.get("Alerts.dat"), "10000:9999:X\r\n99999:9999:X\r\n");
 }
 
 TEST_F(AlertManager, DeletesTheFirstBeforeAClickAndExpiredOnesWithACopy) {
     open(Three);
     NewAlert();
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     DeleteAlert();
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:Today\r\n46400:0100:Later\r\n");
-    EXPECT_EQ(folder_.backups(), "");
+    EXPECT_EQ(folder.get("Alerts.dat"), "46348:0000:Today\r\n46400:0100:Later\r\n");
+    EXPECT_EQ(folder.backups(), "");
     const std::string withBad = std::string(Three) + "46000:zz:Bad line stays\r\n";
-    dialogs_.expect("line 4");
+    dialogs.expect("line 4");
     open(withBad);
-    dialogs_.expect("Backup");
-    dialogs_.expect("line 1");
+    dialogs.expect("Backup");
+    dialogs.expect("line 1");
     DeleteExpiredAlerts();
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46000:zz:Bad line stays\r\n46348:0000:Today\r\n46400:0100:Later\r\n");
-    EXPECT_EQ(folder_.backups(), withBad);
+    EXPECT_EQ(folder.get("Alerts.dat"), "46000:zz:Bad line stays\r\n46348:0000:Today\r\n46400:0100:Later\r\n");
+    EXPECT_EQ(folder.backups(), withBad);
 }
 
 TEST_F(AlertManager, FindsTheNextMessageAroundTheEnd) {
     open("46340:0003:Water\r\n46348:0000:Today\r\n46400:0100:buy WATER\r\n");
-    dialogs_.expectInput("Find", "water");
+    dialogs.expectInput("Find", "water");
     EXPECT_EQ(FindAlert(), 2);
     SelectAlert(2);
-    dialogs_.expectInput("Find", "water");
+    dialogs.expectInput("Find", "water");
     EXPECT_EQ(FindAlert(), 0);
-    EXPECT_EQ(dialogs_.shown().back().preset, "water");
-    dialogs_.expectInput("Find", "fire");
-    dialogs_.expect("\"fire\"");
+    EXPECT_EQ(dialogs.shown().back().preset, "water");
+    dialogs.expectInput("Find", "fire");
+    dialogs.expect("\"fire\"");
     EXPECT_EQ(FindAlert(), std::nullopt);
-    dialogs_.expectInput("Find", std::nullopt);
+    dialogs.expectInput("Find", std::nullopt);
     EXPECT_EQ(FindAlert(), std::nullopt);
 }
 
@@ -149,10 +143,10 @@ TEST_F(AlertManager, SwitchingTheViewKeepsANewAlertBeingTyped) {
 TEST_F(AlertManager, AFailedSaveKeepsWhatWasTypedAndItsPlace) {
     open(Three);
     SelectAlert(1);
-    std::filesystem::remove(folder_.path() / "Alerts.dat");
-    std::filesystem::create_directories(folder_.path() / "Alerts.dat/in the way");
-    dialogs_.expect("over-write", Answer::Yes);
-    dialogs_.expect("SaveAlerts");
+    std::filesystem::remove(folder.path() / "Alerts.dat");
+    std::filesystem::create_directories(folder.path() / "Alerts.dat/in the way");
+    dialogs.expect("over-write", Answer::Yes);
+    dialogs.expect("SaveAlerts");
     EXPECT_EQ(save("12/1/2026", "7", "typed"), AlertField::Abandoned);
     EXPECT_EQ(AlertList.edit.message, "typed");
     EXPECT_EQ(AlertList.selected, 1);

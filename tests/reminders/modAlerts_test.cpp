@@ -1,20 +1,13 @@
 // The alert store: reading, what is pending, the indicator, saving.
 #include "reminders/modAlerts.h"
-
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class Alerts : public testing::Test {
-  protected:
+struct Alerts : PlannerTest {
     void read(std::string_view bytes) {
-        folder_.put("Alerts.dat", bytes);
+        folder.put("Alerts.dat", bytes);
         ReadAlerts();
     }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
 };
 
 TEST_F(Alerts, ArePendingFromTheirPeriodUpToTheirDate) {
@@ -44,7 +37,7 @@ TEST_F(Alerts, TheIndicatorFollowsTheTablesAndCanBeIgnored) {
     EXPECT_FALSE(AlertIndicator.pending);
     read("46348:0000:A\r\n");
     EXPECT_EQ(AlertIndicator.caption, "1 Pending Alert");
-    std::filesystem::remove(folder_.path() / "Alerts.dat");
+    std::filesystem::remove(folder.path() / "Alerts.dat");
     ReadAlerts();
     EXPECT_EQ(AlertIndicator.caption, "No Pending Alerts");
     EXPECT_EQ(AlertIndicator.imageToolTip, "No Alerts Exist");
@@ -56,7 +49,7 @@ TEST_F(Alerts, KeepTheLineBreaksOfAMessageInOneLine) {
     const std::string line = AlertLineOf({Date{39814}, 7, "one\r\ntwo: three"});
     EXPECT_EQ(line, "39814:0007:one\xD5\xD2two: three");
     AlertMasterList = {line};
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     AddingNewAlert = true;
     EXPECT_TRUE(SaveAlerts());
     EXPECT_FALSE(AddingNewAlert);
@@ -76,26 +69,26 @@ TEST_F(Alerts, FillThePendingListSortedByMessage) {
 
 TEST_F(Alerts, OfBadLinesStayInTheListAndAreReported) {
     const std::string file = "46348:0000:A\r\nnonsense\r\n\r\n46348:00x0:B\r\n46348\r\n46348:0000:C";
-    dialogs_.expect("\"Alerts.dat\", line 2, 4, 5");
+    dialogs.expect("\"Alerts.dat\", line 2, 4, 5");
     read(file);
     EXPECT_EQ(AlertCount, 5);
     EXPECT_EQ(PendingAlertCount, 2);
     AlertMasterList = AlertLine;
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:A\r\nnonsense\r\n46348:00x0:B\r\n46348\r\n46348:0000:C\r\n");
+    EXPECT_EQ(folder.get("Alerts.dat"), "46348:0000:A\r\nnonsense\r\n46348:00x0:B\r\n46348\r\n46348:0000:C\r\n");
 }
 
 TEST_F(Alerts, AnEmptyListLeavesNoFileAndAChangedFileIsKept) {
     read("46348:0000:A\r\n");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_FALSE(folder_.has("Alerts.dat"));
-    EXPECT_EQ(folder_.backups(), "");
-    folder_.put("Alerts.dat", "46348:0000:Typed elsewhere\r\n");
+    EXPECT_FALSE(folder.has("Alerts.dat"));
+    EXPECT_EQ(folder.backups(), "");
+    folder.put("Alerts.dat", "46348:0000:Typed elsewhere\r\n");
     AlertMasterList = {"46348:0000:A"};
-    dialogs_.expect("\"Backup\"");
+    dialogs.expect("\"Backup\"");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_EQ(folder_.backups(), "46348:0000:Typed elsewhere\r\n");
+    EXPECT_EQ(folder.backups(), "46348:0000:Typed elsewhere\r\n");
 }
 
 TEST_F(Alerts, TruncatedAnywhereOrVeryManyAreReadWithoutLoss) {
@@ -105,7 +98,7 @@ TEST_F(Alerts, TruncatedAnywhereOrVeryManyAreReadWithoutLoss) {
         std::string last = part.ends_with("\n") ? "" : part.substr(part.rfind('\n') + 1);
         if (last.ends_with("\r")) last.pop_back();
         AlertRec alert;
-        if (!last.empty() && !ParseAlertLine(last, alert)) dialogs_.expect("ReadAlerts");
+        if (!last.empty() && !ParseAlertLine(last, alert)) dialogs.expect("ReadAlerts");
         read(part);
         std::string kept;
         for (const auto& line : AlertLine) kept += line + "\r\n";
@@ -113,7 +106,7 @@ TEST_F(Alerts, TruncatedAnywhereOrVeryManyAreReadWithoutLoss) {
     }
     std::string many;
     for (int i = 0; i < 20000; ++i) many += i == 9999 ? "bad\r\n" : "46348:0000:Number " + std::to_string(i) + "\r\n";
-    dialogs_.expect("line 10000.");
+    dialogs.expect("line 10000.");
     read(many);
     EXPECT_EQ(AlertCount, 20000);
     EXPECT_EQ(AlertIndicator.caption, "19999 Pending Alerts");

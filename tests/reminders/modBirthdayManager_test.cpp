@@ -1,24 +1,18 @@
 // The birthday manager's lists, ages, edits and printing. Today is November 22, 2026.
 #include "reminders/modBirthdayManager.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 #include "tests/support/printer.h"
 
 namespace {
-class BirthdayManager : public testing::Test {
-  protected:
+struct BirthdayManager : PlannerTest {
     void open(std::string_view bytes) {
-        folder_.put("Birthdays.dat", bytes);
+        folder.put("Birthdays.dat", bytes);
         ReadBirthdays();
         OpenBirthdayList();
         QuietBirthdaySave = false;
     }
-    std::string file() const { return folder_.get("Birthdays.dat"); }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
+    std::string file() const { return folder.get("Birthdays.dat"); }
 };
 
 TEST_F(BirthdayManager, PutsTheSurnameFirst) {
@@ -68,9 +62,9 @@ TEST_F(BirthdayManager, ListsByMonthAndByName) {
 
 TEST_F(BirthdayManager, SavesNewAndEditedOnes) {
     open("07/04:07:Grandpa:1931\r\n");
-    dialogs_.expect("Birthdays Updated.");
+    dialogs.expect("Birthdays Updated.");
     EXPECT_EQ(SaveBirthday({" Ann ", "1/2/1990", false, 1}), BirthdayField::Saved);
-    dialogs_.expect("Birthdays Updated.");
+    dialogs.expect("Birthdays Updated.");
     EXPECT_EQ(SaveBirthday({"Ann", "1/2/1990", false, 1}), BirthdayField::Saved) << "twice the same adds it once";
     EXPECT_EQ(file(), "01/02:00:Ann:****\r\n07/04:07:Grandpa:1931\r\n");
     BirthdayEdit shown = SelectBirthday(1);
@@ -81,21 +75,21 @@ TEST_F(BirthdayManager, SavesNewAndEditedOnes) {
     shown.period = 0;
     for (const char* name : {"Granddad", "Grandpa Joe"}) {  // edited again without another click
         shown.name = name;
-        dialogs_.expect("Birthdays Updated.");
+        dialogs.expect("Birthdays Updated.");
         EXPECT_EQ(SaveBirthday(shown), BirthdayField::Saved);
     }
     EXPECT_EQ(file(), "01/02:00:Ann:****\r\n07/04:-1:Grandpa Joe:1931\r\n");
-    EXPECT_EQ(folder_.backups(), "");
+    EXPECT_EQ(folder.backups(), "");
 }
 
 TEST_F(BirthdayManager, KeepsWhatALineHoldsBesidesItsFields) {
     open("07/04:09:Ann:work@x:1931\r\n");
     BirthdayEdit shown = SelectBirthday(0);
     EXPECT_EQ(shown.period, std::nullopt);
-    dialogs_.expect("Backup");
+    dialogs.expect("Backup");
     EXPECT_EQ(SaveBirthday(shown), BirthdayField::Saved);
     EXPECT_EQ(file(), "07/04:09:Ann:1931\r\n") << "a period without a button stays";
-    EXPECT_EQ(folder_.backups(), "07/04:09:Ann:work@x:1931\r\n");
+    EXPECT_EQ(folder.backups(), "07/04:09:Ann:work@x:1931\r\n");
 }
 
 TEST_F(BirthdayManager, RefusesWhatIsNoBirthday) {
@@ -107,7 +101,7 @@ TEST_F(BirthdayManager, RefusesWhatIsNoBirthday) {
              {"Ann", "", "Please enter a date.", BirthdayField::Date},
              {"Ann", "2/30/1990", "Please enter a date.", BirthdayField::Date},
              {"Ann", "2/29/1960", "February 29 cannot be entered", BirthdayField::Date}}) {
-        dialogs_.expect(message);
+        dialogs.expect(message);
         EXPECT_EQ(SaveBirthday({name, date}), field) << message;
     }
     EXPECT_EQ(file(), "07/04:07:Grandpa:1931\r\n");
@@ -116,18 +110,18 @@ TEST_F(BirthdayManager, RefusesWhatIsNoBirthday) {
 TEST_F(BirthdayManager, DeletesSeveralAfterAQuestionAndKeepsTheFile) {
     const std::string before = "01/02:00:Ann:****\r\n01/02:00:Ann:****\r\n07/04:07:Grandpa:1931\r\n";
     open(before);
-    dialogs_.expect("Nothing selected to delete.");
+    dialogs.expect("Nothing selected to delete.");
     EXPECT_FALSE(DeleteBirthdays({}));
-    dialogs_.expect("Preparing to Delete Multiple Items", Answer::No);
+    dialogs.expect("Preparing to Delete Multiple Items", Answer::No);
     EXPECT_FALSE(DeleteBirthdays({0, 2}));
-    dialogs_.expect("Are you sure you want to delete these multiple items?", Answer::Yes);
-    dialogs_.expect("Backup");
+    dialogs.expect("Are you sure you want to delete these multiple items?", Answer::Yes);
+    dialogs.expect("Backup");
     EXPECT_TRUE(DeleteBirthdays({0, 2}));
     EXPECT_EQ(file(), "01/02:00:Ann:****\r\n");
-    EXPECT_EQ(folder_.backups(), before);
+    EXPECT_EQ(folder.backups(), before);
     EXPECT_TRUE(DeleteBirthdays({0}));
     EXPECT_EQ(file(), "(none)");
-    dialogs_.expect("Birthday List Saved. Changes will be reflected in your next calendar view.");
+    dialogs.expect("Birthday List Saved. Changes will be reflected in your next calendar view.");
     CloseBirthdayList();
     CloseBirthdayList();
 }
@@ -141,20 +135,20 @@ TEST_F(BirthdayManager, KnowsWhetherADateSaysItsYear) {
 TEST_F(BirthdayManager, Prints42EntriesAPage) {
     RecordedPrinter printer;
     const std::vector<std::string> entries(43, "07/04/1931\tGrandpa\t\t\t\xE0\x30");
-    dialogs_.expect("Printer not found.");
+    dialogs.expect("Printer not found.");
     PrintBirthdayList(entries);
     CheckPrinter();
-    dialogs_.expect("Nothing from the list has been selected to print.");
+    dialogs.expect("Nothing from the list has been selected to print.");
     PrintSelectedBirthdays({});
-    dialogs_.expect("Click OK to begin printing these 2 pages. Click Cancel to exit.", Answer::Cancel);
+    dialogs.expect("Click OK to begin printing these 2 pages. Click Cancel to exit.", Answer::Cancel);
     PrintBirthdayList(entries);
     EXPECT_EQ(printer.count(""), 0U);
-    dialogs_.expect("Beginning Print Process");
+    dialogs.expect("Beginning Print Process");
     PrintBirthdayList(entries);
     EXPECT_EQ(printer.count("Grandpa"), 43U);
     EXPECT_EQ(printer.count("page"), 1U);
     EXPECT_EQ(printer.calls()[0], "text 1440 1440 '07/04/1931' Times New Roman 11 000000");
-    dialogs_.expect("these 1 pages");
+    dialogs.expect("these 1 pages");
     PrintSelectedBirthdays(std::vector<std::string>(42, "Brown, Ana - 11/23\t\t\t\xE0\x32"));
     EXPECT_EQ(printer.count("page"), 0U);
     EXPECT_EQ(printer.count("'Brown, Ana - 11/23'"), 42U);

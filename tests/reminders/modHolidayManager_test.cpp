@@ -1,32 +1,26 @@
 // The holiday manager's list.
 #include "reminders/modHolidayManager.h"
 
-#include <gtest/gtest.h>
-
 #include "calendar/modCalendar.h"
 #include "reminders/modHolidays.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class HolidayManager : public testing::Test {
-  protected:
+struct HolidayManager : PlannerTest {
     void open(std::string_view bytes, const char* year = "2011") {
-        folder_.put(std::string("Holidays/") + year + "Holidays.dat", bytes);
+        folder.put(std::string("Holidays/") + year + "Holidays.dat", bytes);
         SelectHolidayYear(year);
     }
-    std::string file() const { return folder_.get("Holidays/2011Holidays.dat"); }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
+    std::string file() const { return folder.get("Holidays/2011Holidays.dat"); }
 };
 
 TEST_F(HolidayManager, OpensOnTheClocksYearWithoutAFile) {
-    dialogs_.expect("There is no Holiday List for 2026");
+    dialogs.expect("There is no Holiday List for 2026");
     OpenHolidayList();
     EXPECT_TRUE(HolidayList.lines.empty());
     RemoveHoliday();
     EXPECT_EQ(SaveHoliday("7/4", " Fourth: a feast "), HolidayField::Saved);
-    EXPECT_EQ(folder_.get("Holidays/2026Holidays.dat"), "07/04/26: Fourth: a feast \r\n");
+    EXPECT_EQ(folder.get("Holidays/2026Holidays.dat"), "07/04/26: Fourth: a feast \r\n");
 }
 
 TEST_F(HolidayManager, SavesInTheSelectedYearInPlaceOfTheSameDate) {
@@ -38,7 +32,7 @@ TEST_F(HolidayManager, SavesInTheSelectedYearInPlaceOfTheSameDate) {
     EXPECT_EQ(HolidayDateShown(4), "short");
     EXPECT_EQ(HolidayDescription(1), "B");
     EXPECT_EQ(HolidayDescription(9), "");
-    dialogs_.expect("Holiday List Saved. Changes will be reflected in your next calendar view.");
+    dialogs.expect("Holiday List Saved. Changes will be reflected in your next calendar view.");
     CloseHolidayList();
     CloseHolidayList();
 }
@@ -56,7 +50,7 @@ TEST_F(HolidayManager, RefusesWhatIsNoHoliday) {
                            Row{"2/29/2012", "X", "Date not recognized as entered.", HolidayField::Date},
                            Row{"2/29", "X", "Date not recognized as entered.", HolidayField::Date},
                            Row{"1/1", "  ", "Please enter a description.", HolidayField::Description}}) {
-        dialogs_.expect(row.message);
+        dialogs.expect(row.message);
         EXPECT_EQ(SaveHoliday(row.date, row.text), row.field) << row.date;
     }
     EXPECT_EQ(file(), "12/25/11:Christmas\r\n");
@@ -70,8 +64,8 @@ TEST_F(HolidayManager, RemovesTheClickedEntryAndKeepsTheFileAsItWas) {
     HolidayList.clicked = 1;
     RemoveHoliday();
     EXPECT_EQ(file(), "07/04/11:A\r\n");
-    EXPECT_EQ(folder_.backups(), "07/04/11:A\r\n12/25/11:Christmas\r\n");
-    dialogs_.expect("There is no Holiday List for 2011");
+    EXPECT_EQ(folder.backups(), "07/04/11:A\r\n12/25/11:Christmas\r\n");
+    dialogs.expect("There is no Holiday List for 2011");
     RemoveHoliday();
     EXPECT_EQ(file(), "(none)");
 }
@@ -81,12 +75,12 @@ TEST_F(HolidayManager, StartsOrLoadsTheListOfATypedYear) {
     EXPECT_TRUE(StartHolidayList("2031"));
     EXPECT_TRUE(HolidayList.lines.empty());
     EXPECT_EQ(SaveHoliday("1/1", "New Year"), HolidayField::Saved);
-    EXPECT_EQ(folder_.get("Holidays/2031Holidays.dat"), "01/01/31:New Year\r\n");
+    EXPECT_EQ(folder.get("Holidays/2031Holidays.dat"), "01/01/31:New Year\r\n");
     EXPECT_EQ(HolidayDateShown(0), "Jan 01, 2031") << "the century is the list's";
     EXPECT_TRUE(StartHolidayList("2011"));
     EXPECT_EQ(HolidayList.lines.size(), 1U);
     for (const char* typed : {"", "20x1", "99", "10000"}) {
-        dialogs_.expect("four digits");
+        dialogs.expect("four digits");
         EXPECT_FALSE(StartHolidayList(typed));
     }
     EXPECT_EQ(HolidayList.year, "2011");
@@ -94,12 +88,12 @@ TEST_F(HolidayManager, StartsOrLoadsTheListOfATypedYear) {
 
 TEST_F(HolidayManager, AFailedSaveKeepsTheListForAnotherTry) {
     open("07/04/11:A\r\n");
-    std::filesystem::rename(folder_.path() / "Holidays", folder_.path() / "away");
-    folder_.put("Holidays", "a file in the folder's place");
-    dialogs_.expect("SaveHolidayFile");
+    std::filesystem::rename(folder.path() / "Holidays", folder.path() / "away");
+    folder.put("Holidays", "a file in the folder's place");
+    dialogs.expect("SaveHolidayFile");
     EXPECT_EQ(SaveHoliday("12/25", "Christmas"), HolidayField::Date);
     EXPECT_EQ(HolidayList.lines.size(), 2U);
-    std::filesystem::remove(folder_.path() / "Holidays");
+    std::filesystem::remove(folder.path() / "Holidays");
     CalendarView = 12;
     Calendar.firstShown = MakeDate(2011, 1, 1);
     SaveHolidaysAndRedraw();

@@ -1,8 +1,6 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
-#include <gtest/gtest.h>
-
 #include <QLineEdit>
 #include <QMenu>
 #include <QSignalSpy>
@@ -21,12 +19,10 @@
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "tests/support/calendar.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-class MainWindowTest : public testing::Test {
-  protected:
+struct MainWindowTest : WindowTest {
     MainWindowTest() {
         putFiles();
         window_ = new frmMain;
@@ -36,7 +32,6 @@ class MainWindowTest : public testing::Test {
         QCoreApplication::processEvents();
     }
     ~MainWindowTest() override {
-        UnloadAllWindows();
         Shell = {};
         AskAboutIcons = {};
     }
@@ -64,15 +59,15 @@ class MainWindowTest : public testing::Test {
                                 "Load FUT Position:False",
                                 "FUT Position:Left=1:Top=2:Width=2805:Height=6345"})
             preferences += std::string(key) + "\r\n";
-        folder_.put("UserPreferences.txt", preferences);
-        folder_.put("Marker Colors.dat",
-                    "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
-                    "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nR&D:32768\r\nHoliday:16711680\r\n"
-                    "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\n"
-                    "Vacation:16711935\r\n");
-        folder_.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
-        folder_.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
-        folder_.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
+        folder.put("UserPreferences.txt", preferences);
+        folder.put("Marker Colors.dat",
+                   "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
+                   "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nR&D:32768\r\nHoliday:16711680\r\n"
+                   "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\n"
+                   "Vacation:16711935\r\n");
+        folder.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
+        folder.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
+        folder.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
     }
 
     static MonthPicture* picture(int index) {
@@ -90,8 +85,6 @@ class MainWindowTest : public testing::Test {
         window_->cmbYear->setEditText(QString::fromLatin1(year));
     }
 
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
     frmMain* window_ = nullptr;
 };
 
@@ -154,7 +147,7 @@ TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2009"));
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2009 Calendar"));
     pick("February", "30", "2009");
-    dialogs_.expect("Type mismatch");
+    dialogs.expect("Type mismatch");
     QTest::keyClick(window_->cmbDay->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(SelectedDate, MakeDate(2009, 3, 9));
     pick("July", "1", "1900");
@@ -170,13 +163,13 @@ TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     EXPECT_EQ(window_->lblHoliday->text(), QStringLiteral("No Holiday Assigned"));
     EXPECT_EQ(window_->lblMonth->text() + window_->lblX->text() + window_->lblY->text(), QStringLiteral("1032"));
     window_->item(QStringLiteral("mnuOptDateQuickMark"))->trigger();
-    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
+    EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
     const QPoint middle = placeOf(november, MakeDate(2026, 11, 18));
     const QImage shot = november->grab().toImage();
     EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
-    dialogs_.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
+    dialogs.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
-    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
+    EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
 }
 
 TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
@@ -208,7 +201,7 @@ TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {
 
 TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBeforeIt) {
     UnloadAllWindows();
-    folder_.put("Alerts.dat", "nothing\r\n46350:0003:Order the cake\r\n");
+    folder.put("Alerts.dat", "nothing\r\n46350:0003:Order the cake\r\n");
     int boxes = 0;
     const Dialogs scripted = SetDialogs({[&](const std::string&, Buttons, const std::string&) {
                                              QTest::qWait(20);  // the window is painted behind the box
@@ -227,7 +220,7 @@ TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBefore
 }
 
 TEST_F(MainWindowTest, ResizingReadsNoFile) {
-    folder_.put("2026Marks.dat", "not a mark");
+    folder.put("2026Marks.dat", "not a mark");
     window_->resize(1500, 1000);
     QCoreApplication::processEvents();
     const QImage shot = picture(10)->grab().toImage();
@@ -255,7 +248,7 @@ TEST_F(MainWindowTest, CancelAtTheSaveChangesPromptKeepsEverything) {
 }
 
 TEST_F(MainWindowTest, VersionIsTold) {
-    dialogs_.expect("Tasmoro Vers. 1.4.4\r\nTasmoro Build Vers. 1.4 Date 3.24.09");
+    dialogs.expect("Tasmoro Vers. 1.4.4\r\nTasmoro Build Vers. 1.4 Date 3.24.09");
     window_->item(QStringLiteral("mnuHelpSoftwareVersion"))->trigger();
 }
 }  // namespace

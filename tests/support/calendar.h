@@ -1,8 +1,6 @@
 // A calendar without windows: recorders for canvases, and what the main window was told.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <map>
 #include <set>
@@ -11,10 +9,9 @@
 
 #include "base/dates.h"
 #include "forms/recorder.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
-class CalendarTest : public testing::Test {
+class CalendarTest : public PlannerTest {
   protected:
     CalendarTest();
     ~CalendarTest() override;
@@ -29,8 +26,6 @@ class CalendarTest : public testing::Test {
     static bool click(int year, int month, int day);
     static std::string hoverText(int year, int month, int day);
 
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
     std::map<std::string, bool> enabled;  // menu items, as last told
     std::map<int, std::string> monthCaptions;
     std::string caption;

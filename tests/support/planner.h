@@ -12,8 +12,31 @@
 #include "tests/support/disk.h"
 #include "tests/support/folder.h"
 
+/// The bytes of a file, a part of the report that reading it gives ("" for none), and how many of its records are read.
+struct FaultyFile {
+    std::string bytes;
+    const char* report;
+    int read;
+};
+
 /// A test with a data folder of its own, in which every box must have been expected.
 struct PlannerTest : testing::Test {
+    /// Reads each file in a folder of its own by read(), which answers the records in effect, and overwrites it by
+    /// save(): it must be kept in "Backup" to the byte. `name` is the file's.
+    template <class Read, class Save>
+    void expectKept(const std::string& name, const std::vector<FaultyFile>& files, Read read, Save save) {
+        for (const FaultyFile& file : files) {
+            SCOPED_TRACE(file.bytes);
+            const TemporaryFolder fresh;
+            fresh.put(name, file.bytes);
+            if (*file.report != '\0') dialogs.expect(file.report);
+            EXPECT_EQ(read(), file.read);
+            EXPECT_TRUE(save());
+            EXPECT_EQ(fresh.backups(), file.bytes);
+            dialogs.verify();
+        }
+    }
+
     TemporaryFolder folder;
     ScriptedDialogs dialogs;
 };
@@ -32,6 +55,11 @@ int ErrorOf(Call call, std::string* description = nullptr) {
 
 /// The pieces of the text between its "|".
 std::vector<std::string> Pieces(std::string_view text);
+
+/// The line that a cut leaves without its end; "" where there is none.
+inline std::string LastLine(const std::string& cut) {
+    return cut.substr(cut.rfind('\n') + 1, cut.ends_with('\r') ? cut.size() - cut.rfind('\n') - 2 : cut.npos);
+}
 
 /// Calls test(cut, folder) with every beginning of the bytes, each with a fresh folder on an unsynced disk.
 template <class Test>

@@ -2,18 +2,13 @@
 #include <QApplication>
 #include <QTest>
 
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 #include "tools/frmAlarm.h"
 #include "tools/frmDateDiff.h"
 #include "tools/frmNumDays.h"
 
 namespace {
-struct ToolWindows : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    void TearDown() override { UnloadAllWindows(); }
-
+struct ToolWindows : WindowTest {
     /// Types over a box's text and presses Enter.
     static void enter(QLineEdit* box, const char* text) {
         box->selectAll();
