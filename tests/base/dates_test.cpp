@@ -35,13 +35,10 @@ TEST(Dates, ThatDoNotExistAreRefused) {
 }
 
 TEST(Dates, AddMonthsKeepsTheDayWhereItExists) {
-    const struct {
-        const char* from;
-        int months;
-        const char* to;
-    } rows[] = {{"1/31/2009", 1, "2/28/2009"},   {"1/31/2008", 1, "2/29/2008"},  {"2/29/2008", 12, "2/28/2009"},
-                {"3/31/2009", -1, "2/28/2009"},  {"12/31/2009", 2, "2/28/2010"}, {"1/15/2009", -1, "12/15/2008"},
-                {"1/1/2000", -1200, "1/1/1900"}, {"11/30/2026", 15, "2/29/2028"}};
+    const std::tuple<const char*, int, const char*> rows[] = {
+        {"1/31/2009", 1, "2/28/2009"},   {"1/31/2008", 1, "2/29/2008"},  {"2/29/2008", 12, "2/28/2009"},
+        {"3/31/2009", -1, "2/28/2009"},  {"12/31/2009", 2, "2/28/2010"}, {"1/15/2009", -1, "12/15/2008"},
+        {"1/1/2000", -1200, "1/1/1900"}, {"11/30/2026", 15, "2/29/2028"}};
     for (const auto& [from, months, to] : rows)
         EXPECT_EQ(ShortDate(AddMonths(DateOfText(from), months)), to) << from << " + " << months;
     EXPECT_THROW(AddMonths(MakeDate(9999, 12, 1), 1), Error);
@@ -93,15 +90,11 @@ TEST(Dates, EveryShortDateReadsBack) {
 
 TEST(Dates, TimesAreWrittenInPatterns) {
     const Date day = MakeDate(2026, 11, 22);
-    const struct {
-        int second;
-        const char* general;
-        const char* short24;
-    } rows[] = {{0, "11/22/2026 12:00:00 AM", "00:00"},
-                {3661, "11/22/2026 1:01:01 AM", "01:01"},
-                {43200, "11/22/2026 12:00:00 PM", "12:00"},
-                {70745, "11/22/2026 7:39:05 PM", "19:39"},
-                {86399, "11/22/2026 11:59:59 PM", "23:59"}};
+    const std::tuple<int, const char*, const char*> rows[] = {{0, "11/22/2026 12:00:00 AM", "00:00"},
+                                                              {3661, "11/22/2026 1:01:01 AM", "01:01"},
+                                                              {43200, "11/22/2026 12:00:00 PM", "12:00"},
+                                                              {70745, "11/22/2026 7:39:05 PM", "19:39"},
+                                                              {86399, "11/22/2026 11:59:59 PM", "23:59"}};
     for (const auto& [second, general, short24] : rows) {
         EXPECT_EQ(GeneralDate({day, second}), general);
         EXPECT_EQ(FormatTime(second, "hh:mm"), short24);

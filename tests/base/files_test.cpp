@@ -28,10 +28,7 @@ using Guard = Files;
 }  // namespace
 
 TEST_F(Files, AreReadIntoLines) {
-    struct Row {
-        std::string bytes;
-        std::vector<std::string_view> lines;
-    };
+    using Row = std::pair<std::string, std::vector<std::string_view>>;
     for (const auto& [bytes, lines] :
          {Row{"", {}}, Row{"a\r\nb\r\n", {"a", "b"}}, Row{"a\nb\n", {"a", "b"}},
           Row{"a\nb\r\n\r\n\nc", {"a", "b", "", "", "c"}}, Row{"a\r\nb", {"a", "b"}}, Row{"a\r\nb\r", {"a", "b"}},

@@ -24,20 +24,18 @@ TEST(Text, EveryByteSurvivesTheWayOutAndBack) {
 }
 
 TEST(Text, WhatIsNoTextOfTheCodePageBecomesQuestionMarks) {
-    const struct {
-        const char* utf8;
-        const char* text;
-    } rows[] = {{"Ж1", "?1"},
-                {"\xF0\x9F\x99\x82.", "?."},  // beyond 16 bits
-                {"\xC2\x80", "?"},            // U+0080 has no code
-                {"a\xFF"
-                 "b",
-                 "a?b"},                            // no UTF-8 at all
-                {"\xE2\x82", "??"},                 // cut off
-                {"\xC0\xAF", "??"},                 // "/" in two bytes
-                {"\xE0\x80\xAF", "???"},            // "/" in three
-                {"\xF8\x80\x80\x80\x80", "?????"},  // a length that does not exist
-                {"\xC3(", "?("}};
+    const std::pair<const char*, const char*> rows[] = {
+        {"Ж1", "?1"},
+        {"\xF0\x9F\x99\x82.", "?."},  // beyond 16 bits
+        {"\xC2\x80", "?"},            // U+0080 has no code
+        {"a\xFF"
+         "b",
+         "a?b"},                            // no UTF-8 at all
+        {"\xE2\x82", "??"},                 // cut off
+        {"\xC0\xAF", "??"},                 // "/" in two bytes
+        {"\xE0\x80\xAF", "???"},            // "/" in three
+        {"\xF8\x80\x80\x80\x80", "?????"},  // a length that does not exist
+        {"\xC3(", "?("}};
     for (const auto& [utf8, text] : rows) EXPECT_EQ(TextOfUtf8(utf8), text) << text;
     EXPECT_EQ(CodeOf(0x80), -1);
     EXPECT_EQ(CodeOf(0x81), 0x81);
@@ -60,12 +58,7 @@ TEST(Text, CaseMappingPairsTheLettersThatHaveTwoForms) {
 }
 
 TEST(Text, IsFoundIgnoringCase) {
-    struct Row {
-        const char* text;
-        const char* phrase;
-        std::size_t from;
-        std::size_t at;
-    };
+    using Row = std::tuple<const char*, const char*, std::size_t, std::size_t>;
     for (const auto& [text, phrase, from, at] :
          {Row{"A Dentist", "DENT", 0, 2}, Row{"xXxy", "xy", 0, 2}, Row{"dDdD", "dd", 1, 1},
           Row{"abc", "abcd", 0, std::string::npos}, Row{"abc", "", 3, 3}, Row{"abc", "", 4, std::string::npos},
@@ -119,11 +112,7 @@ TEST(Text, PiecesStayWithinTheText) {
 }
 
 TEST(Text, NumbersAreReadWholeOrRefused) {
-    struct Row {
-        const char* text;
-        std::int64_t value;
-        int error;
-    };
+    using Row = std::tuple<const char*, std::int64_t, int>;
     for (const auto& [text, value, error] :
          {Row{"7", 7, 0}, Row{" +7 ", 7, 0}, Row{"007", 7, 0}, Row{"-32768", -32768, 0}, Row{"32767", 32767, 0},
           Row{"32768", 0, Overflow}, Row{"-32769", 0, Overflow}, Row{"99999999999999999999", 0, Overflow},

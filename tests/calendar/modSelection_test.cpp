@@ -63,24 +63,18 @@ TEST_F(Selection, DoubleClickOpensTheNoteOnlyOfTheDayLastClicked) {
 
 TEST_F(Selection, HoverNamesWhatIsOnTheDay) {
     putData();
-    struct Row {
-        int month;
-        int day;
-        const char* text;
-    };
-    const Row rows[] = {
-        {3, 2, "Meeting: Dentist 9:30"},
-        {3, 1, "Birthday: Zo\xEB"},
-        {3, 3, ""},
-        {7, 4, "Birthday: Anna, Ben, Holiday: Independence Day"},  // marked in the Birthday colour, too
-        {12, 25, "Holiday: Christmas Day"},
-        {11, 22, "Today's Date"},
-    };
+    using Row = std::tuple<int, int, const char*>;
+    const Row rows[] = {{3, 2, "Meeting: Dentist 9:30"},
+                        {3, 1, "Birthday: Zo\xEB"},
+                        {3, 3, ""},
+                        {7, 4, "Birthday: Anna, Ben, Holiday: Independence Day"},  // marked in the Birthday colour, too
+                        {12, 25, "Holiday: Christmas Day"},
+                        {11, 22, "Today's Date"}};
     show(12, 2026, 1, 1);
-    for (const Row& row : rows) EXPECT_EQ(hoverText(2026, row.month, row.day), row.text) << row.month << "/" << row.day;
-    for (const Row& row : rows) {
-        show(1, 2026, row.month, 10);
-        EXPECT_EQ(hoverText(2026, row.month, row.day), row.text) << row.month << "/" << row.day;
+    for (const auto& [month, day, text] : rows) EXPECT_EQ(hoverText(2026, month, day), text) << month << "/" << day;
+    for (const auto& [month, day, text] : rows) {
+        show(1, 2026, month, 10);
+        EXPECT_EQ(hoverText(2026, month, day), text) << month << "/" << day;
     }
     show(12, 2026, 1, 1);
     click(2026, 12, 25);

@@ -53,25 +53,10 @@ struct IconsTest : PlannerTest {
 TEST_F(IconsTest, ReadsLinesAndRefusesWhatIsNone) {
     EXPECT_EQ(IconLineOf("06:02 Index:41"), (IconLine{6, 2, 41}));
     EXPECT_EQ(TextOfIconLine({30, 0, 7}), "30:00 Index:07");
-    const struct {
-        const char* line;
-        int error;
-    } bad[] = {{"", TypeMismatch},
-               {"06:02", TypeMismatch},
-               {"xx:02 Index:41", TypeMismatch},
-               {"06:02 Index:", TypeMismatch},
-               {"31:02 Index:41", SubscriptOutOfRange},
-               {"06:04 Index:41", SubscriptOutOfRange},
-               {"06:02 Index:96", SubscriptOutOfRange},
-               {"06:02 Index:-1", SubscriptOutOfRange}};
-    for (const auto& row : bad) {
-        try {
-            IconLineOf(row.line);
-            ADD_FAILURE() << row.line;
-        } catch (const Error& error) {
-            EXPECT_EQ(error.number(), row.error) << row.line;
-        }
-    }
+    for (const char* line : {"", "06:02", "xx:02 Index:41", "06:02 Index:"})
+        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), TypeMismatch) << line;
+    for (const char* line : {"31:02 Index:41", "06:04 Index:41", "06:02 Index:96", "06:02 Index:-1"})
+        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), SubscriptOutOfRange) << line;
 }
 
 TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
@@ -209,21 +194,18 @@ TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
 TEST_F(IconsTest, BadFilesAreReportedAndKept) {
     std::string full;
     for (int i = 0; i < MostIcons; ++i) full += TextOfIconLine({i / 4, i % 4, 5}) + "\r\n";
-    const struct {
-        const char* name;
-        std::string file;
-        int placed;
-    } files[] = {{"a bad line", "06:00 Index:41\r\n\r\n07:00 Index:42\r\n", 1},
-                 {"palette out of range", "06:00 Index:41\r\n07:00 Index:96\r\n", 1},
-                 {"125 lines", full + "00:00 Index:05\r\n", MostIcons}};
-    for (const auto& row : files) {
-        folder.put("2026/May_Icons.dat", row.file);
+    const std::tuple<const char*, std::string, int> files[] = {
+        {"a bad line", "06:00 Index:41\r\n\r\n07:00 Index:42\r\n", 1},
+        {"palette out of range", "06:00 Index:41\r\n07:00 Index:96\r\n", 1},
+        {"125 lines", full + "00:00 Index:05\r\n", MostIcons}};
+    for (const auto& [name, file, placed] : files) {
+        folder.put("2026/May_Icons.dat", file);
         dialogs.expect("An error occurred in Read1MonthIcons.");
         EXPECT_EQ(Draw(2026, 5), MonthIcons::Modified);
-        EXPECT_EQ(MonthIconCount, row.placed) << row.name;
+        EXPECT_EQ(MonthIconCount, placed) << name;
         dialogs.expect("in the folder \"Backup\"");
         EXPECT_TRUE(Save1MonthIcons());
-        EXPECT_NE(folder.backups().find(row.file), std::string::npos) << row.name;
+        EXPECT_NE(folder.backups().find(file), std::string::npos) << name;
     }
 }
 

@@ -82,18 +82,15 @@ TEST_F(PrintTest, DrawsTheMonth) {
 }
 
 TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
-    const struct {
-        int entries;
-        int printed;
-    } lists[] = {{18, 18}, {19, 19}, {36, 36}, {37, 36}};
-    for (const auto& row : lists) {
-        PutEntries(folder, row.entries);
+    const std::pair<int, int> lists[] = {{18, 18}, {19, 19}, {36, 36}, {37, 36}};
+    for (const auto& [entries, printed] : lists) {
+        PutEntries(folder, entries);
         ReadMonth(2026, 7);
-        if (row.entries > row.printed) dialogs.expect("first 36 will be printed.");
+        if (entries > printed) dialogs.expect("first 36 will be printed.");
         print();
-        EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(row.printed)) << row.entries;
-        EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << row.entries;  // the 18th
-        EXPECT_EQ(page->containing("text 4 7.5 '").size(), row.entries > 18 ? 1u : 0u) << row.entries;
+        EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(printed)) << entries;
+        EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << entries;  // the 18th
+        EXPECT_EQ(page->containing("text 4 7.5 '").size(), entries > 18 ? 1u : 0u) << entries;
     }
 }
 

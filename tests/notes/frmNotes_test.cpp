@@ -57,14 +57,9 @@ struct EditorTest : WindowTest {
 };
 
 TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
-    struct Row {
-        const char* typed;
-        Qt::Key key;
-        Qt::KeyboardModifiers held;
-        const char* expected;
-    };
+    using Row = std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers, const char*>;
     open();
-    for (const Row& row :
+    for (const auto& [typed, key, held, expected] :
          {Row{"ne", Qt::Key_unknown, Qt::NoModifier, "ne[w york]"},
           Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New York|"},
           Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW YORK|"},
@@ -77,9 +72,9 @@ TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
           Row{"budge", Qt::Key_T, Qt::NoModifier, "budget|"},
           Row{"new y", Qt::Key_Right, Qt::NoModifier, "new york|"}}) {
         box->showNote("");
-        type(row.typed);
-        if (row.key != Qt::Key_unknown) press(row.key, row.held);
-        EXPECT_EQ(shown(), row.expected) << row.typed;
+        type(typed);
+        if (key != Qt::Key_unknown) press(key, held);
+        EXPECT_EQ(shown(), expected) << typed;
     }
     NotesChanged = false;
 }

@@ -18,23 +18,19 @@ std::string Topics() {
 }  // namespace
 
 TEST(Help, FilesAsTheyAreRead) {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string topics;
-    };
-    for (const Row& row :
+    using Row = std::tuple<const char*, std::string, std::string>;
+    for (const auto& [name, file, topics] :
          {Row{"three topics", "*Getting Started:\r\nAt 7:00.\r\nGo.\r\n*Notes:\r\nb\r\n*Last:\r\nc\r\n",
               "[Getting Started]At 7:00.\r\nGo.[Notes]b[Last]c\r\n"},
           Row{"bare line feeds", "*A:\na\n*B:\nb", "[A]a[B]b"}, Row{"no topics", "Just a text.\r\n", ""},
           Row{"no bytes", "", ""}, Row{"text before the first", "Preface\r\n*A:\r\na", "[A]a"},
           Row{"empty titles", "*:\r\na\r\n*:\r\n*:\r\nc", "[]a[][]c"}, Row{"stars alone", "**\r\n*", "[][][]"},
           Row{"no colon", "*Lost\r\n*A:\r\na", "[Lost][A]a"}, Row{"text after the colon", "*A: a", "[A] a"}}) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(name);
         const TemporaryFolder folder;
-        folder.put("Help_Topics.txt", row.file);
+        folder.put("Help_Topics.txt", file);
         ReadHelpTopics();
-        EXPECT_EQ(Topics(), row.topics);
+        EXPECT_EQ(Topics(), topics);
     }
 }
 

@@ -102,18 +102,14 @@ TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
 }
 
 TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
-    struct Row {
-        const char* name;
-        std::string line;
-        const char* report;
-    };
-    for (const Row& row :
+    using Row = std::tuple<const char*, std::string, const char*>;
+    for (const auto& [name, line, report] :
          {Row{"short", "03/05/26:0203", "Number: 5"}, Row{"empty", "", "Number: 5"},
           Row{"no digits", "03/05/26:02ab00:x", "Number: 13"}, Row{"no such cell", "03/05/26:129900:x", "Number: 9"}}) {
-        SCOPED_TRACE(row.name);
-        const std::string before = "03/04/26:020300:before\r\n" + row.line + "\r\n07/04/26:060600:after\r\n";
+        SCOPED_TRACE(name);
+        const std::string before = "03/04/26:020300:before\r\n" + line + "\r\n07/04/26:060600:after\r\n";
         folder.put("2026/Notes.dat", before);
-        dialogs.expect(row.report);
+        dialogs.expect(report);
         ReadThisYearsNotes();
         EXPECT_NE(dialogs.shown().back().text.find("line 2 of the file"), std::string::npos);
         EXPECT_EQ(NoteCount(), 1);

@@ -74,21 +74,16 @@ TEST_F(AlertManager, ActsOnTheRightAlertInThePendingView) {
 
 TEST_F(AlertManager, RefusesWhatCannotBeKept) {
     open("");
-    struct Row {
-        const char* date;
-        const char* period;
-        const char* message;
-        AlertField field;
-    };
-    for (const Row& row :
+    using Row = std::tuple<const char*, const char*, const char*, AlertField>;
+    for (const auto& [date, period, message, field] :
          {Row{"1/1/2027", "", "Please edit the value of the Alert Period", AlertField::Period},
           Row{"1/1/2027", "1x", "Please edit the value of the Alert Period", AlertField::Period},
           Row{"1/1/2027", "12345", "An alert cannot be set greater than 9999 days.", AlertField::Period},
           Row{"soon", "1", "Date not recognized as entered.", AlertField::Date},
           Row{"5/17/1927", "1", "May 18, 1927", AlertField::Date},
           Row{"10/14/2173", "1", "October 13, 2173", AlertField::Date}}) {
-        dialogs.expect(row.message);
-        EXPECT_EQ(save(row.date, row.period, "X"), row.field) << row.date;
+        dialogs.expect(message);
+        EXPECT_EQ(save(date, period, "X"), field) << date;
     }
     dialogs.expect("line breaks", Answer::No);
     EXPECT_EQ(save("1/1/2027", "1", "\xD2"), AlertField::Message);

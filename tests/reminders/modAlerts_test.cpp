@@ -12,17 +12,14 @@ struct Alerts : PlannerTest {
 
 TEST_F(Alerts, ArePendingFromTheirPeriodUpToTheirDate) {
     const int today = MakeDate(2026, 11, 22).number;
-    struct Row {
-        int days;
-        const char* period;
-        bool pending;
-    };
-    for (const Row& row : {Row{0, "0000", true}, Row{1, "0000", false}, Row{-1, "9999", false}, Row{7, "0007", true},
-                           Row{8, "0007", false}, Row{9999, "9999", true}, Row{0, "-001", false}}) {
-        read(std::to_string(today + row.days) + ":" + row.period + ":Call: Bob\r\n");
-        EXPECT_EQ(PendingAlertCount == 1, row.pending) << row.days << " " << row.period;
+    using Row = std::tuple<int, const char*, bool>;
+    for (const auto& [days, period, pending] :
+         {Row{0, "0000", true}, Row{1, "0000", false}, Row{-1, "9999", false}, Row{7, "0007", true},
+          Row{8, "0007", false}, Row{9999, "9999", true}, Row{0, "-001", false}}) {
+        read(std::to_string(today + days) + ":" + period + ":Call: Bob\r\n");
+        EXPECT_EQ(PendingAlertCount == 1, pending) << days << " " << period;
         EXPECT_EQ(AlertMessage[0], "Call: Bob");
-        EXPECT_EQ(AlertDate[0].number, today + row.days);
+        EXPECT_EQ(AlertDate[0].number, today + days);
     }
 }
 

@@ -31,20 +31,16 @@ TEST_F(BirthdayManager, PutsTheSurnameFirst) {
 }
 
 TEST_F(BirthdayManager, CountsTheBirthdaysPassed) {
-    struct Row {
-        const char* today;
-        const char* monthDay;
-        const char* born;
-        const char* age;
-    };
-    for (const Row& row : {Row{"2/28/2009", "02/28", "1931", "78"}, Row{"2/27/2009", "02/28", "1931", "77"},
-                           Row{"11/22/2026", "11/22", "1904", "122"}, Row{"2/28/2027", "02/29", "2000", "27"},
-                           Row{"2/28/2028", "02/29", "2000", "27"}, Row{"11/22/2026", "12/01", "2026", "0"},
-                           Row{"11/22/2026", "11/22", "****", "NA"}, Row{"11/22/2026", "11/22", "19a1", "NA"},
-                           Row{"11/22/2026", "13/45", "1990", "NA"}}) {
-        const YearMonthDay day = PartsOf(DateOfText(row.today));
+    using Row = std::tuple<const char*, const char*, const char*, const char*>;
+    for (const auto& [today, monthDay, born, age] :
+         {Row{"2/28/2009", "02/28", "1931", "78"}, Row{"2/27/2009", "02/28", "1931", "77"},
+          Row{"11/22/2026", "11/22", "1904", "122"}, Row{"2/28/2027", "02/29", "2000", "27"},
+          Row{"2/28/2028", "02/29", "2000", "27"}, Row{"11/22/2026", "12/01", "2026", "0"},
+          Row{"11/22/2026", "11/22", "****", "NA"}, Row{"11/22/2026", "11/22", "19a1", "NA"},
+          Row{"11/22/2026", "13/45", "1990", "NA"}}) {
+        const YearMonthDay day = PartsOf(DateOfText(today));
         FixClock(day.year, day.month, day.day);
-        EXPECT_EQ(CalculateAge({row.monthDay, "0", "Ann", row.born}), std::string("Age = ") + row.age);
+        EXPECT_EQ(CalculateAge({monthDay, "0", "Ann", born}), std::string("Age = ") + age);
     }
 }
 

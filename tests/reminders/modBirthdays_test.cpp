@@ -31,25 +31,21 @@ TEST_F(Birthdays, AreReadByPosition) {
 }
 
 TEST_F(Birthdays, ArePendingWithinTheirPeriod) {
-    struct Row {
-        const char* today;
-        const char* monthDay;
-        const char* period;
-        bool pending;
-    };
-    for (const Row& row : {Row{"11/22/2026", "11/22", "00", true}, Row{"11/22/2026", "11/23", "00", false},
-                           Row{"11/22/2026", "11/21", "10", false}, Row{"11/22/2026", "12/02", "10", true},
-                           Row{"11/22/2026", "12/03", "10", false}, Row{"11/22/2026", "11/22", "-1", false},
-                           Row{"12/28/2026", "01/03", "10", true}, Row{"12/28/2026", "12/30", "10", true},
-                           Row{"12/28/2026", "01/08", "10", false}, Row{"12/31/2026", "12/31", "01", true},
-                           Row{"02/28/2026", "02/29", "00", true}, Row{"02/28/2028", "02/29", "00", false},
-                           Row{"02/29/2028", "02/29", "00", true}, Row{"03/01/2026", "02/29", "00", false},
-                           Row{"12/28/2026", "02/29", "63", true}, Row{"11/22/2026", "11/22", "-5", false}}) {
-        const YearMonthDay day = PartsOf(DateOfText(row.today));
+    using Row = std::tuple<const char*, const char*, const char*, bool>;
+    for (const auto& [today, monthDay, period, pending] :
+         {Row{"11/22/2026", "11/22", "00", true}, Row{"11/22/2026", "11/23", "00", false},
+          Row{"11/22/2026", "11/21", "10", false}, Row{"11/22/2026", "12/02", "10", true},
+          Row{"11/22/2026", "12/03", "10", false}, Row{"11/22/2026", "11/22", "-1", false},
+          Row{"12/28/2026", "01/03", "10", true}, Row{"12/28/2026", "12/30", "10", true},
+          Row{"12/28/2026", "01/08", "10", false}, Row{"12/31/2026", "12/31", "01", true},
+          Row{"02/28/2026", "02/29", "00", true}, Row{"02/28/2028", "02/29", "00", false},
+          Row{"02/29/2028", "02/29", "00", true}, Row{"03/01/2026", "02/29", "00", false},
+          Row{"12/28/2026", "02/29", "63", true}, Row{"11/22/2026", "11/22", "-5", false}}) {
+        const YearMonthDay day = PartsOf(DateOfText(today));
         FixClock(day.year, day.month, day.day, 23, 59, 59);
-        read(std::string(row.monthDay) + ":" + row.period + ":Ann:1990\r\n");
-        EXPECT_EQ(PendingBirthdayCount == 1, row.pending) << row.today << " " << row.monthDay << " " << row.period;
-        EXPECT_EQ(BirthdayIndicator.pending, row.pending);
+        read(std::string(monthDay) + ":" + period + ":Ann:1990\r\n");
+        EXPECT_EQ(PendingBirthdayCount == 1, pending) << today << " " << monthDay << " " << period;
+        EXPECT_EQ(BirthdayIndicator.pending, pending);
     }
 }
 

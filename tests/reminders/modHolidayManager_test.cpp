@@ -39,19 +39,15 @@ TEST_F(HolidayManager, SavesInTheSelectedYearInPlaceOfTheSameDate) {
 
 TEST_F(HolidayManager, RefusesWhatIsNoHoliday) {
     open("12/25/11:Christmas\r\n");
-    struct Row {
-        const char* date;
-        const char* text;
-        const char* message;
-        HolidayField field;
-    };
-    for (const Row& row : {Row{"  ", "X", "There's no date entered.", HolidayField::Date},
-                           Row{"someday", "X", "Date not recognized as entered.", HolidayField::Date},
-                           Row{"2/29/2012", "X", "Date not recognized as entered.", HolidayField::Date},
-                           Row{"2/29", "X", "Date not recognized as entered.", HolidayField::Date},
-                           Row{"1/1", "  ", "Please enter a description.", HolidayField::Description}}) {
-        dialogs.expect(row.message);
-        EXPECT_EQ(SaveHoliday(row.date, row.text), row.field) << row.date;
+    using Row = std::tuple<const char*, const char*, const char*, HolidayField>;
+    for (const auto& [date, text, message, field] :
+         {Row{"  ", "X", "There's no date entered.", HolidayField::Date},
+          Row{"someday", "X", "Date not recognized as entered.", HolidayField::Date},
+          Row{"2/29/2012", "X", "Date not recognized as entered.", HolidayField::Date},
+          Row{"2/29", "X", "Date not recognized as entered.", HolidayField::Date},
+          Row{"1/1", "  ", "Please enter a description.", HolidayField::Description}}) {
+        dialogs.expect(message);
+        EXPECT_EQ(SaveHoliday(date, text), field) << date;
     }
     EXPECT_EQ(file(), "12/25/11:Christmas\r\n");
     open("01/01/12:New Year\r\n", "2012");

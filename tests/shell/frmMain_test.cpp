@@ -184,17 +184,13 @@ TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
 }
 
 TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {
-    struct Row {
-        QSize size;
-        bool right;
-        bool toDo;
-    };
-    for (const Row& row : {Row{{1280, 950}, true, true}, Row{{900, 950}, false, true}, Row{{1280, 600}, true, false},
-                           Row{{800, 600}, false, false}}) {
-        window_->resize(row.size);
+    using Row = std::tuple<QSize, bool, bool>;
+    for (const auto& [size, right, toDo] : {Row{{1280, 950}, true, true}, Row{{900, 950}, false, true},
+                                            Row{{1280, 600}, true, false}, Row{{800, 600}, false, false}}) {
+        window_->resize(size);
         QCoreApplication::processEvents();
-        EXPECT_EQ(window_->picRight->isVisible(), row.right) << row.size.width();
-        EXPECT_EQ(window_->picBottom[1]->isVisible(), row.toDo) << row.size.height();
+        EXPECT_EQ(window_->picRight->isVisible(), right) << size.width();
+        EXPECT_EQ(window_->picBottom[1]->isVisible(), toDo) << size.height();
         EXPECT_TRUE(window_->picBottom[0]->isVisible());
     }
 }
