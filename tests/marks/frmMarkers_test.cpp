@@ -3,6 +3,7 @@
 
 #include "base/text.h"
 #include "marks/modMarkerDisplay.h"
+#include "tests/support/calendar.h"
 #include "tests/support/window_test.h"
 
 namespace {
@@ -10,10 +11,8 @@ struct MarkersWindow : WindowTest {
     frmMarkers* window = nullptr;
 
     MarkersWindow() {
-        std::string file;
-        for (std::size_t k = 0; k < CategoryCount; ++k)
-            file += MarkerCaption[k] + ":" + std::to_string(MarkerPalette[k]) + (k == 3 ? "*" : "") + CrLf;
-        folder.put("Marker Colors.dat", file);
+        PutCategories(folder);
+        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "5\r\nBirthday", "5*\r\nBirthday"));
         ReadMarkerColors();
         window = ShowWindow<frmMarkers>();
     }

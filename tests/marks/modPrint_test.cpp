@@ -27,10 +27,7 @@ struct PrintTest : PlannerTest {
     /// The document's canvas goes when it is printed; what it recorded stays with the test.
     struct Sheet : Recorder {
         Sheet(double units, std::optional<Recorder>& kept) : Recorder(units), kept_(kept) {}
-        void end() override {
-            Recorder::end();
-            kept_ = *this;
-        }
+        void end() override { Recorder::end(), kept_ = *this; }
         std::optional<Recorder>& kept_;
     };
 
@@ -82,8 +79,7 @@ TEST_F(PrintTest, DrawsTheMonth) {
 }
 
 TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
-    const std::pair<int, int> lists[] = {{18, 18}, {19, 19}, {36, 36}, {37, 36}};
-    for (const auto& [entries, printed] : lists) {
+    for (const auto& [entries, printed] : {std::pair{18, 18}, {19, 19}, {36, 36}, {37, 36}}) {
         PutEntries(folder, entries);
         ReadMonth(2026, 7);
         if (entries > printed) dialogs.expect("first 36 will be printed.");
@@ -114,8 +110,7 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
     ResetMonthIcons(TemplateDate = MakeDate(2026, 1, 1));
     print();
     EXPECT_EQ(printedTitle, "Monthly Template");
-    EXPECT_TRUE(page->containing("'Sun'").empty());
-    EXPECT_TRUE(page->containing("Arial 9").empty());
+    EXPECT_TRUE(page->containing("'Sun'").empty() && page->containing("Arial 9").empty());
     for (const char* number : {"'28' Arial 18 bold 000000", "'29' Arial 18 bold C0C0C0", "'31' Arial 18 bold 0000FF"})
         EXPECT_EQ(page->containing(number).size(), 1u) << number;
 }

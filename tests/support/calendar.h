@@ -16,14 +16,14 @@ class CalendarTest : public PlannerTest {
     CalendarTest();
     ~CalendarTest() override;
 
-    /// Writes fourteen categories with the colours below and reads them.
-    void putCategories() const;
     /// Selects the day, and draws the view (1, 6 or 12) for it.
     void show(int view, int year, int month, int day) const;
     /// The recorder of a month on display, by its place.
     const Recorder& month(std::size_t index) const { return recorders_.at(index); }
     /// The point in the middle of a date's cell, on its shown month; selects it.
     static bool click(int year, int month, int day);
+    /// The colour that a date's cell on its shown month was painted last.
+    static Color painted(int year, int month, int day);
     static std::string hoverText(int year, int month, int day);
 
     std::map<std::string, bool> enabled;  // menu items, as last told
@@ -46,3 +46,6 @@ inline constexpr Color BirthdayColor = 0x800080;
 inline constexpr Color HolidayColor = 0xFF0000;
 inline constexpr Color QuickMarksColor = 0x808000;
 inline constexpr Color TodayColor = 0xFFFF00;
+
+/// Writes fourteen categories with those colours.
+void PutCategories(const TemporaryFolder& folder);

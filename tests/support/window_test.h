@@ -1,6 +1,8 @@
 // What the tests of windows stand on.
 #pragma once
 
+#include "calendar/frmMonth.h"
+#include "calendar/modGrid.h"
 #include "forms/qt/window.h"
 #include "tests/support/planner.h"
 
@@ -8,3 +10,9 @@
 struct WindowTest : PlannerTest {
     ~WindowTest() override { UnloadAllWindows(); }
 };
+
+/// The middle of a date's cell on the picture of its month.
+inline QPoint MiddleOfDay(const MonthPicture* month, Date date) {
+    const Cell cell = CellOf(date);
+    return month->fromScale(QRectF(cell.column, cell.row + 0.75, 1, 1)).center();
+}
