@@ -54,23 +54,20 @@ TEST_F(TermsTest, NewListsAreMadeUnderNamesThatEverySystemTakes) {
         dialogs.expect("Action Cancelled.");
         EXPECT_FALSE(CreateNewFUTFile()) << name;
     }
-    for (const char* name : {"", "   "}) {
+    const auto create = [&](const char* name, std::optional<Answer> overwrite) {
         dialogs.expectInput("Please enter a name", name);
-        EXPECT_FALSE(CreateNewFUTFile());
-    }
+        if (overwrite) dialogs.expect("File already exists. Overwrite?", *overwrite);
+        return CreateNewFUTFile();
+    };
+    EXPECT_FALSE(create("", {}) || create("   ", {}));
     folder.put("Home.fut", "dentist");
-    dialogs.expectInput("Please enter a name", "home");
-    dialogs.expect("File already exists. Overwrite?", Answer::No);
-    EXPECT_FALSE(CreateNewFUTFile());
+    EXPECT_FALSE(create("home", Answer::No));
     EXPECT_EQ(CurrentTermsFile, "Work.fut");
-    dialogs.expectInput("Please enter a name", "console");
-    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_TRUE(create("console", {}));
     EXPECT_EQ(folder.get("console.fut"), "");
     EXPECT_TRUE(AddTerms("first"));
     EXPECT_EQ(folder.get("console.fut"), "first");
-    dialogs.expectInput("Please enter a name", "Home");
-    dialogs.expect("File already exists. Overwrite?", Answer::Yes);
-    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_TRUE(create("Home", Answer::Yes));
     EXPECT_EQ(folder.get("Home.fut"), "dentist");  // until the first term is saved
     dialogs.expect("Backup");
     EXPECT_TRUE(AddTerms("plumber"));
@@ -83,13 +80,10 @@ TEST_F(TermsTest, ListsAreChosenCycledAndDeleted) {
     folder.put("C.FUT", "of c");
     folder.put("c.txt", "no list");
     open("a.fut", "of a");
-    const auto next = [] {
+    for (const char* next : {"b.fut", "C.FUT", "a.fut"}) {
         NextTermsFile();
-        return CurrentTermsFile;
-    };
-    EXPECT_EQ(next(), "b.fut");
-    EXPECT_EQ(next(), "C.FUT");
-    EXPECT_EQ(next(), "a.fut");
+        EXPECT_EQ(CurrentTermsFile, next);
+    }
     dialogs.expect("You cannot delete the Default");
     DeleteTermsFile();
     ShowTermsFiles();
@@ -128,12 +122,9 @@ TEST_F(TermsTest, GoBackToTheirOwnFileWhateverThePreferencesNameMeanwhile) {
 }
 
 TEST_F(TermsTest, AreJoinedToANoteWithTheBlanksTheyNeed) {
-    EXPECT_EQ(InsertedTerm('\0', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm(' ', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm('\n', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm('x', "vet"), " vet ");
-    EXPECT_EQ(DroppedTerm('\0', "vet"), "vet");
-    EXPECT_EQ(DroppedTerm('\n', "vet"), "vet");
-    EXPECT_EQ(DroppedTerm(' ', "vet"), " vet");
+    for (const char before : {'\0', ' ', '\n', 'x'}) {
+        EXPECT_EQ(InsertedTerm(before, "vet"), before == 'x' ? " vet " : "vet ");
+        EXPECT_EQ(DroppedTerm(before, "vet"), before == '\0' || before == '\n' ? "vet" : " vet");
+    }
 }
 }  // namespace

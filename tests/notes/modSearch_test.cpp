@@ -53,9 +53,6 @@ TEST_F(SearchTest, ListsDatesOfAYearOrAMonth) {
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 0, "vet"), (Dates{"01/08/26", "03/09/26"}));
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 3, "vet"), Dates{"03/09/26"});
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 0, "lunch"), Dates{"03/04/26"});
-    EXPECT_EQ(SearchReport(0), "Search Phrase was not found.");
-    EXPECT_EQ(SearchReport(1), "Search Phrase appears on 1 date");
-    EXPECT_EQ(SearchReport(2), "Search Phrase appears on 2 dates.");
     EXPECT_EQ(NoteDatesInMonth(ReadNotesOfYear(2035).value(), 3), Dates{"03/01/35"});
     EXPECT_EQ(ShortDate(SelectedDate), "1/1/2035");
 }
@@ -70,24 +67,6 @@ TEST_F(SearchTest, OpensAListedNoteOfItsOwnYear) {
     dialogs.expect("Couldn't find note to open.");
     EXPECT_FALSE(OpenListedNote(2026, "03/10/26"));
     NoteEditor = {};
-}
-
-TEST_F(SearchTest, DeletesListedNotesOnceTheEditorIsClosed) {
-    const std::string before = folder.get("2026/Notes.dat");
-    NotesWindowOpen = true;
-    NoteEditor.close = [] { return false; };
-    DeleteListedNotes(2026, {"03/04/26"});
-    EXPECT_EQ(folder.get("2026/Notes.dat"), before);
-    NotesWindowOpen = false;
-    dialogs.expect("Notes Saved");
-    DeleteListedNotes(2026, {"03/04/26", "03/09/26"});
-    EXPECT_EQ(folder.get("2026/Notes.dat"), "01/08/26:000401:Vet\r\n");
-    NoteEditor = {};
-}
-
-TEST_F(SearchTest, RemembersEachPhraseOnce) {
-    for (const char* phrase : {"lunch", "Lunch", "", "lunch"}) RememberPhrase(phrase);
-    EXPECT_EQ(Search.history, (std::vector<std::string>{"lunch", "Lunch"}));
 }
 
 TEST(TimeLine, RunsFromSixInTheMorningToHalfPastElevenAtNight) {

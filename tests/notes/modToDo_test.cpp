@@ -1,10 +1,7 @@
 // The to-do list: what files mean, what a save writes, moving rows, the printed sheet.
 #include "notes/modToDo.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 #include "tests/support/printer.h"
 
 namespace {
@@ -21,13 +18,22 @@ std::string Shown(const ToDoColumn<std::string>& texts, const ToDoColumn<bool>& 
 std::string Edited() { return Shown(ToDo.editedTexts, ToDo.done); }
 std::string Panel() { return Shown(ToDo.panelTexts, ToDo.panelDone); }
 
-void OpenList() {
-    TaskListOpenRequested = true;
-    ReadToDoList();
-}
+struct ToDoTest : PlannerTest {
+    void open(const std::string& bytes) { open(bytes, folder); }
+    static void open(const std::string& bytes, const TemporaryFolder& folder) {
+        folder.put("To Do.dat", bytes);
+        TaskListOpenRequested = true;
+        ReadToDoList();
+    }
+    void save() {
+        dialogs.expect("To Do List Saved.");
+        EXPECT_TRUE(SaveToDoList());
+        EXPECT_FALSE(TaskListChanged);
+    }
+};
 }  // namespace
 
-TEST(ToDo, FilesAsTheyAreRead) {
+TEST_F(ToDoTest, FilesAsTheyAreRead) {
     struct Row {
         const char* name;
         std::string file;
@@ -48,21 +54,17 @@ TEST(ToDo, FilesAsTheyAreRead) {
           Row{"eleven", TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
           Row{"no mark", "Milk\r\n", "ilk|||||||||", false, true}, Row{"no bytes", "", "|||||||||"}}) {
         SCOPED_TRACE(row.name);
-        const TemporaryFolder folder;
-        ScriptedDialogs dialogs;
-        folder.put("To Do.dat", row.file);
+        const TemporaryFolder fresh;
         if (row.tooLong) dialogs.expect("ReadToDoList");
-        OpenList();
+        open(row.file, fresh);
         EXPECT_EQ(Edited(), row.rows);
         EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);
-        dialogs.expect("To Do List Saved.");
-        EXPECT_TRUE(SaveToDoList());
-        EXPECT_EQ(folder.backups(), row.backup ? row.file : "");
+        save();
+        EXPECT_EQ(fresh.backups(), row.backup ? row.file : "");
     }
 }
 
-TEST(ToDo, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
-    const TemporaryFolder folder;
+TEST_F(ToDoTest, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
     int shown = 0;
     ShowToDo = [&shown] { ++shown; };
     folder.put("To Do.dat", "\xF3 \r\n\xF3two\r\n");
@@ -78,11 +80,8 @@ TEST(ToDo, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
     ShowToDo = {};
 }
 
-TEST(ToDo, SavesTheSameBytesAgainAndAgain) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    folder.put("To Do.dat", TenRows);
-    OpenList();
+TEST_F(ToDoTest, SavesTheSameBytesAgainAndAgain) {
+    open(TenRows);
     ToggleToDoDone(2);
     EXPECT_FALSE(TaskListChanged) << "a mark alone asks nothing at the end";
     SetToDoText(1, "two\r\nlines\nmore");
@@ -90,18 +89,14 @@ TEST(ToDo, SavesTheSameBytesAgainAndAgain) {
     std::string wanted = TenRows;
     wanted.replace(wanted.find("two\r\n\xF5"), 6, "two lines more\r\n\xF3");
     for (int times = 0; times < 2; ++times) {
-        dialogs.expect("To Do List Saved.");
-        EXPECT_TRUE(SaveToDoList());
+        save();
         EXPECT_EQ(folder.get("To Do.dat"), wanted);
-        EXPECT_FALSE(TaskListChanged);
     }
     ReadToDoList();
     EXPECT_TRUE(Panel().starts_with("+one|two lines more|+|+|")) << Panel();
 }
 
-TEST(ToDo, FailedSaveKeepsTheEditsAndTheFile) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+TEST_F(ToDoTest, FailedSaveKeepsTheEditsAndTheFile) {
     SetToDoText(0, "typed");
     std::filesystem::create_directories(folder.path() / "To Do.dat");  // nothing can be written in its place
     dialogs.expect("SaveToDoList");
@@ -110,11 +105,8 @@ TEST(ToDo, FailedSaveKeepsTheEditsAndTheFile) {
     EXPECT_EQ(ToDo.editedTexts[0], "typed");
 }
 
-TEST(ToDo, MovesRowsOnlyIntoAnEmptyOne) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    folder.put("To Do.dat", TenRows);
-    OpenList();
+TEST_F(ToDoTest, MovesRowsOnlyIntoAnEmptyOne) {
+    open(TenRows);
     EXPECT_FALSE(MoveToDoDown());
     EXPECT_FALSE(MoveToDoUp());
     EXPECT_FALSE(TaskListChanged);
@@ -126,9 +118,7 @@ TEST(ToDo, MovesRowsOnlyIntoAnEmptyOne) {
     EXPECT_FALSE(MoveToDoUp());
 }
 
-TEST(ToDo, PrintsEachControlAtItsPlace) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+TEST_F(ToDoTest, PrintsEachControlAtItsPlace) {
     ToDoSheet sheet;
     for (std::size_t row = 0; row < ToDoRows; ++row) {
         const double top = 600 + 345 * static_cast<double>(row);
