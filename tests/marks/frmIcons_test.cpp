@@ -2,9 +2,7 @@
 #include "marks/frmIcons.h"
 
 #include <QDir>
-#include <QDropEvent>
 #include <QLineEdit>
-#include <QMimeData>
 #include <QPushButton>
 #include <QSet>
 #include <QTest>
@@ -120,15 +118,8 @@ TEST_F(IconWindows, DropsShowTheIconOnItsDay) {
     ResetMonthIcons(MakeDate(2026, 4, 1));
 
     BeginDragFromPalette(12);
-    QMimeData data;
-    data.setData(QStringLiteral("application/x-tasmoro-icon"), "12");
     // Tuesday, April 7th: the third column of the second row.
-    const QPoint point(2.5 * 593 / 7, 2.25 * 467 / 6.75);
-    QDragEnterEvent enter(point, Qt::MoveAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&month, &enter);
-    QDropEvent drop(point, Qt::MoveAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&month, &drop);
-    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_TRUE(DragAndDrop(&month, QPoint(2.5 * 593 / 7, 2.25 * 467 / 6.75), "application/x-tasmoro-icon", "12"));
     EXPECT_EQ(MonthIconLines[0], "06:00 Index:12");
     EXPECT_EQ(icons->placeOf(0), QRect(173, 170, 20, 20));
     const QPoint middle = icons->placeOf(0).center();

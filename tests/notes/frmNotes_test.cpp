@@ -3,9 +3,7 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
 #include <QInputMethodEvent>
-#include <QMimeData>
 #include <QTest>
 
 #include "base/text.h"
@@ -44,11 +42,8 @@ struct EditorTest : WindowTest {
     std::string shown() const {
         const QTextCursor cursor = box->textCursor();
         QString text = box->toPlainText();
-        if (cursor.hasSelection())
-            text.insert(cursor.selectionEnd(), u']').insert(cursor.selectionStart(), u'[');
-        else
-            text.insert(cursor.position(), u'|');
-        return text.toStdString();
+        if (!cursor.hasSelection()) return text.insert(cursor.position(), u'|').toStdString();
+        return text.insert(cursor.selectionEnd(), u']').insert(cursor.selectionStart(), u'[').toStdString();
     }
     std::string file() const { return folder.get("2026/Notes.dat"); }
 
@@ -76,7 +71,6 @@ TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
         if (key != Qt::Key_unknown) press(key, held);
         EXPECT_EQ(shown(), expected) << typed;
     }
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
@@ -108,7 +102,6 @@ TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
     EXPECT_EQ(shown(), "bud b|");
     while (box->document()->isUndoAvailable()) press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(shown(), "|");
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
@@ -132,7 +125,6 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_TRUE(NotesChanged);
     EXPECT_TRUE(box->toPlainText().contains(QChar(0x4E2D)));
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, ClosesThroughItsPrompt) {
@@ -144,8 +136,7 @@ TEST_F(EditorTest, ClosesThroughItsPrompt) {
     change(Answer::Cancel);
     CalendarView = 0;
     press(Qt::Key_Escape);
-    EXPECT_EQ(OpenedWindow<frmNotes>(), window);
-    EXPECT_EQ(CalendarView, 0);
+    EXPECT_TRUE(OpenedWindow<frmNotes>() == window && CalendarView == 0);
     SelectDate(MakeDate(2026, 3, 1));
     dialogs.expect("Text has been changed", Answer::Cancel);
     DisplayThisNote();
@@ -153,13 +144,10 @@ TEST_F(EditorTest, ClosesThroughItsPrompt) {
     dialogs.expect("Text has been changed", Answer::Yes);
     dialogs.expect("Notes Saved");
     press(Qt::Key_Escape);
-    EXPECT_EQ(OpenedWindow<frmNotes>(), nullptr);
-    EXPECT_FALSE(NotesWindowOpen);
+    EXPECT_FALSE(OpenedWindow<frmNotes>() || NotesWindowOpen);
     EXPECT_EQ(CalendarView, 12);
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
-    open();
-    type("y");
-    dialogs.expect("Text has been changed", Answer::No);
+    change(Answer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
 }
@@ -188,20 +176,13 @@ TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {
     window->cmdFormat->click();
     EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n")) << shown();
     EXPECT_EQ(box->document()->blockCount(), 2 + 72);
-    QMimeData carried;
-    carried.setData(QLatin1String(DraggedTermType), "vet");
     const auto drop = [&] {
         DraggedTerm = "vet";
-        QDragEnterEvent enters(QPoint(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box->viewport(), &enters);
-        EXPECT_TRUE(enters.isAccepted());
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box->viewport(), &event);
+        EXPECT_TRUE(DragAndDrop(box->viewport(), QPoint(5, 5), DraggedTermType, "vet"));
         return shown();
     };
     EXPECT_TRUE(drop().ends_with(" - \n\nvet|"));
     EXPECT_TRUE(drop().ends_with("\nvet vet|"));
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
@@ -224,6 +205,5 @@ TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
     for (const QString& line : box->wrappedLines()) wrapped << line.simplified();
     EXPECT_GT(wrapped.size(), 73);
     EXPECT_EQ(printed.mid(1), wrapped);
-    NotesChanged = false;
 }
 }  // namespace

@@ -1,6 +1,10 @@
 // What the tests of windows stand on.
 #pragma once
 
+#include <QCoreApplication>
+#include <QDropEvent>
+#include <QMimeData>
+
 #include "calendar/frmMonth.h"
 #include "calendar/modGrid.h"
 #include "forms/qt/window.h"
@@ -15,4 +19,15 @@ struct WindowTest : PlannerTest {
 inline QPoint MiddleOfDay(const MonthPicture* month, Date date) {
     const Cell cell = CellOf(date);
     return month->fromScale(QRectF(cell.column, cell.row + 0.75, 1, 1)).center();
+}
+
+/// Drags what is carried over the widget and drops it; false if the widget takes it not.
+inline bool DragAndDrop(QWidget* onto, QPoint place, const char* type, const char* carried) {
+    QMimeData data;
+    data.setData(QLatin1String(type), carried);
+    QDragEnterEvent enter(place, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(onto, &enter);
+    QDropEvent drop(place, Qt::MoveAction | Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(onto, &drop);
+    return enter.isAccepted() && drop.isAccepted();
 }
