@@ -1,8 +1,6 @@
 // Dates: the arithmetic against a day-by-day walk, reading and writing in tables.
 #include "base/dates.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/support/planner.h"
 
 TEST(Dates, AgreeWithAWalkOverAllDays) {

@@ -1,9 +1,6 @@
 // Whole files on disks that work and disks that fail; the guard of what nobody has read.
 #include "base/files.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <chrono>
 
 #include "base/diskio.h"

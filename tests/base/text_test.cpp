@@ -1,8 +1,6 @@
 // Text as the files hold it: the code page, letter case, list order, pieces and numbers.
 #include "base/text.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/support/planner.h"
 
 namespace {

@@ -1,8 +1,6 @@
 // The six-month view: its months and buttons, and days of next year marked, noted and kept in next year's files.
 #include "calendar/frm6Months.h"
 
-#include <QTest>
-
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "calendar/modShell.h"

@@ -1,8 +1,6 @@
 // The month grid: every date has one cell, every cell at most one date.
 #include "calendar/modGrid.h"
 
-#include <set>
-
 #include "tests/support/planner.h"
 
 namespace {

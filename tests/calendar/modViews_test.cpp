@@ -1,9 +1,6 @@
 // What the views draw, read as recorded text; which months they show; what they tell the main window.
 #include "calendar/modViews.h"
 
-#include <algorithm>
-
-#include "base/clock.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modNavigation.h"
 #include "calendar/modPaint.h"

@@ -1,11 +1,6 @@
 // The window of captions and colours.
 #include "marks/frmColors.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QTest>
-#include <tuple>
-
 #include "base/text.h"
 #include "tests/support/window_test.h"
 

@@ -1,12 +1,6 @@
 // The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
 #include "marks/frmIcons.h"
 
-#include <QDir>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSet>
-#include <QTest>
-
 #include "base/diskio.h"
 #include "calendar/modPaint.h"
 #include "forms/qt/canvas.h"

@@ -1,8 +1,6 @@
 // The printed month, read from what is drawn on the page.
 #include "marks/modPrint.h"
 
-#include <optional>
-
 #include "calendar/modPaint.h"
 #include "forms/printer.h"
 #include "forms/recorder.h"

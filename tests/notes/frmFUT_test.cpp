@@ -1,8 +1,6 @@
 // The terms window and its dialogs.
 #include "notes/frmFUT.h"
 
-#include <QTest>
-
 #include "calendar/modCalendar.h"
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"

@@ -1,16 +1,7 @@
 // The notes editor: typing with completion, saving, closing, searching, printing.
 #include "notes/frmNotes.h"
 
-#include <QApplication>
-#include <QClipboard>
-#include <QInputMethodEvent>
-#include <QTest>
-
 #include "base/text.h"
-#include "calendar/modViews.h"
-#include "forms/qt/text.h"
-#include "notes/frmFUT.h"
-#include "notes/modComplete.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"

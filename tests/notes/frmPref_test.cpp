@@ -1,8 +1,6 @@
 // The window of the preferences of terms.
 #include "notes/frmPref.h"
 
-#include <QTest>
-
 #include "shell/modPreferences.h"
 #include "tests/support/window_test.h"
 

@@ -1,9 +1,6 @@
 // The to-do window and the main window's panel.
 #include "notes/frmToDo.h"
 
-#include <QApplication>
-#include <QTest>
-
 #include "notes/frmToDoPanel.h"
 #include "tests/support/window_test.h"
 

@@ -1,8 +1,6 @@
 // Help topics: what files mean, and the search through them.
 #include "notes/modHelp.h"
 
-#include <set>
-
 #include "base/text.h"
 #include "tests/support/planner.h"
 

@@ -1,9 +1,6 @@
 // Searching the notes of a year, and the day's time line.
 #include "notes/modSearch.h"
 
-#include <string>
-#include <vector>
-
 #include "base/text.h"
 #include "notes/modNotes.h"
 #include "notes/modTimeLine.h"

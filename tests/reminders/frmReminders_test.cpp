@@ -1,6 +1,4 @@
 // The windows of holidays, birthdays and alerts, and the main window's ways to them. Today is November 22, 2026.
-#include <QTest>
-#include <memory>
 
 #include "calendar/modCalendar.h"
 #include "calendar/modShell.h"

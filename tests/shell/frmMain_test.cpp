@@ -1,22 +1,13 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
-#include <QLineEdit>
-#include <QMenu>
-#include <QSignalSpy>
-#include <QTest>
-
 #include "base/text.h"
 #include "calendar/frmMonth.h"
 #include "calendar/frmYear.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
-#include "calendar/modShell.h"
-#include "calendar/modViews.h"
-#include "forms/qt/text.h"
 #include "marks/modMarks.h"
 #include "marks/modSaveChanges.h"
-#include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "tests/support/calendar.h"
 #include "tests/support/window_test.h"

@@ -1,9 +1,8 @@
 // What the tests of windows stand on.
 #pragma once
 
-#include <QCoreApplication>
-#include <QDropEvent>
-#include <QMimeData>
+#include <QTest>
+#include <QtWidgets>
 
 #include "calendar/frmMonth.h"
 #include "calendar/modGrid.h"

@@ -1,6 +1,4 @@
 // The windows of the date tools and the alarm clock.
-#include <QApplication>
-#include <QTest>
 
 #include "tests/support/window_test.h"
 #include "tools/frmAlarm.h"
