@@ -28,7 +28,6 @@ TEST_F(Alerts, TheIndicatorFollowsTheTablesAndCanBeIgnored) {
     ShowAlertIndicator = [&] { ++shown; };
     read("46348:0000:A\r\n46348:0001:B\r\n");
     EXPECT_EQ(AlertIndicator.caption, "2 Pending Alerts");
-    EXPECT_EQ(AlertIndicator.toolTip, "Left Click to View, Right Click to Ignore.");
     IgnorePendingAlerts();
     EXPECT_EQ(AlertIndicator.caption, "Alerts Ignored");
     EXPECT_FALSE(AlertIndicator.pending);
@@ -89,23 +88,22 @@ TEST_F(Alerts, AnEmptyListLeavesNoFileAndAChangedFileIsKept) {
 }
 
 TEST_F(Alerts, TruncatedAnywhereOrVeryManyAreReadWithoutLoss) {
-    const std::string whole = "46348:0000:One\r\n46349:0010:Two: parts\r\n";
-    for (std::size_t length = 0; length <= whole.size(); ++length) {
-        const std::string part = whole.substr(0, length);
-        std::string last = part.ends_with("\n") ? "" : part.substr(part.rfind('\n') + 1);
-        if (last.ends_with("\r")) last.pop_back();
-        AlertRec alert;
-        if (!last.empty() && !ParseAlertLine(last, alert)) dialogs.expect("ReadAlerts");
-        read(part);
-        std::string kept;
-        for (const auto& line : AlertLine) kept += line + "\r\n";
-        EXPECT_TRUE(kept.starts_with(part)) << length;
-    }
     std::string many;
     for (int i = 0; i < 20000; ++i) many += i == 9999 ? "bad\r\n" : "46348:0000:Number " + std::to_string(i) + "\r\n";
     dialogs.expect("line 10000.");
     read(many);
     EXPECT_EQ(AlertCount, 20000);
     EXPECT_EQ(AlertIndicator.caption, "19999 Pending Alerts");
+    ForEachCut("46348:0000:One\r\n46349:0010:Two: parts\r\n",
+               [&](const std::string& cut, const TemporaryFolder& fresh) {
+                   AlertRec alert;
+                   if (!LastLine(cut).empty() && !ParseAlertLine(LastLine(cut), alert)) dialogs.expect("ReadAlerts");
+                   fresh.put("Alerts.dat", cut);
+                   ReadAlerts();
+                   dialogs.verify();
+                   std::string kept;
+                   for (const auto& line : AlertLine) kept += line + "\r\n";
+                   EXPECT_TRUE(kept.starts_with(cut));
+               });
 }
 }  // namespace

@@ -1,9 +1,7 @@
 // Weekdays of a period.
 #include "tools/modNumDays.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::vector<std::string> EntriesOf(const Occurrences& found) {
@@ -11,10 +9,10 @@ std::vector<std::string> EntriesOf(const Occurrences& found) {
     ListOccurrences(found, [&entries](std::string_view entry) { entries.emplace_back(entry); });
     return entries;
 }
+using NumDaysTest = PlannerTest;
 }  // namespace
 
-TEST(NumDays, CountsBothEnds) {
-    const TemporaryFolder folder;
+TEST_F(NumDaysTest, CountsBothEnds) {
     using Row = std::tuple<const char*, const char*, int, const char*, const char*, const char*>;
     for (const auto& [start, end, weekday, text, first, last] :
          {Row{"1/1/2009", "1/31/2009", 0, "Sunday found 4 times", "Sunday 1/4/2009", "Sunday 1/25/2009"},
@@ -34,8 +32,7 @@ TEST(NumDays, CountsBothEnds) {
     }
 }
 
-TEST(NumDays, StopsAtTheMostTheListShows) {
-    const TemporaryFolder folder;
+TEST_F(NumDaysTest, StopsAtTheMostTheListShows) {
     const Date monday = MakeDate(1500, 1, 1);
     for (const int more : {0, 1}) {
         NumDays = {monday, monday + 7 * (MostOccurrences - 1 + more), WeekdayOf(monday) - 1};
