@@ -1,6 +1,7 @@
 // Icons: the lines and files, placing them on real months and on the template's, dropping, moving, removing, saving.
 #include "marks/modIcons.h"
 
+#include "base/text.h"
 #include "calendar/modCalendar.h"
 #include "marks/modSaveChanges.h"
 #include "tests/support/planner.h"
@@ -10,8 +11,7 @@ struct IconsTest : PlannerTest {
     IconsTest() {
         std::string tags;
         for (int slot = 0; slot < PaletteSize; ++slot)
-            tags += std::string(slot < 10 ? "00" : "0") + std::to_string(slot) + ":Caption " + std::to_string(slot) +
-                    "\r\n";
+            tags += Padded(slot, 3) + ":Caption " + std::to_string(slot) + "\r\n";
         folder.put("Icon Tags.dat", tags);
         for (int picture = 0; picture < LibrarySize; ++picture)
             folder.put("Images/" + std::to_string(picture) + ".ico", "picture");
@@ -24,22 +24,15 @@ struct IconsTest : PlannerTest {
         return PlaceMonthIcons();
     }
 
-    static void DrawTemplate() {
-        TemplateMode = true;
-        TemplateDate = MakeDate(2026, 1, 1);
-        ResetMonthIcons(TemplateDate);
-        ReadTemplateTags();
+    /// Saves the month's icons and answers the file's bytes.
+    std::string saved(const char* file) {
+        dialogs.expect("Calendar Saved.");
+        EXPECT_TRUE(Save1MonthIcons());
+        return folder.get(file);
     }
 
-    static void DropOn(Date date) {
-        const Cell cell = CellOf(date);
-        DropIcon(cell.column + 0.5, cell.row + 1.25);
-    }
-
-    static void DropFromPalette(int slot, Date date) {
-        BeginDragFromPalette(slot);
-        DropOn(date);
-    }
+    static void DropOn(Date date) { DropIcon(CellOf(date).column + 0.5, CellOf(date).row + 1.25); }
+    static void DropFromPalette(int slot, Date date) { BeginDragFromPalette(slot), DropOn(date); }
 
     /// The tags of the icons to be seen, in the order of their controls.
     static std::string Visible() {
@@ -70,9 +63,7 @@ TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
     EXPECT_DOUBLE_EQ(IconPool[0].top, 2.45);
     EXPECT_TRUE(IconSlotUsed[2][6]);
     EXPECT_EQ(IconCaption[41], "Caption 41");
-    dialogs.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), file);
+    EXPECT_EQ(saved("2026/Apr_Icons.dat"), file);
     EXPECT_EQ(folder.backups(), "");
 }
 
@@ -89,22 +80,18 @@ TEST_F(IconsTest, SaysWhatAMonthShows) {
 
 TEST_F(IconsTest, TheTemplatesLastDaysFollowTheMonth) {
     folder.put("Template.dat", "30:00 Index:01\r\n28:01 Index:02\r\n29:02 Index:03\r\n27:00 Index:04\r\n");
-    const struct {
-        int year, month;
-        const char* shown;
-    } months[] = {{2026, 1, "30:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
-                  {2026, 4, "29:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
-                  {2026, 2, "27:00 Index:01|27:02 Index:03|27:01 Index:04|"},  // two icons of one slot: the next free
-                  {2028, 2, "28:00 Index:01|28:01 Index:02|28:02 Index:03|27:00 Index:04|"}};
-    for (const auto& row : months) {
-        Draw(row.year, row.month);
-        EXPECT_EQ(Visible(), row.shown) << row.year << "-" << row.month;
+    const std::tuple<int, int, const char*> months[] = {
+        {2026, 1, "30:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
+        {2026, 4, "29:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
+        {2026, 2, "27:00 Index:01|27:02 Index:03|27:01 Index:04|"},  // two icons of one slot: the next free
+        {2028, 2, "28:00 Index:01|28:01 Index:02|28:02 Index:03|27:00 Index:04|"}};
+    for (const auto& [year, month, shown] : months) {
+        Draw(year, month);
+        EXPECT_EQ(Visible(), shown) << year << "-" << month;
     }
-    dialogs.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2028/Feb_Icons.dat").substr(0, 16), "28:00 Index:01\r\n");  // the month's own day
+    EXPECT_EQ(saved("2028/Feb_Icons.dat").substr(0, 16), "28:00 Index:01\r\n");  // the month's own day
     Draw(2028, 2);
-    EXPECT_EQ(Visible(), months[3].shown);
+    EXPECT_EQ(Visible(), std::get<2>(months[3]));
 }
 
 TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
@@ -132,10 +119,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     EXPECT_EQ(DragKind, Drag::None);
     EXPECT_TRUE(IconSlotUsed[0][6]);
     EXPECT_EQ(Visible(), "06:00 Index:41|07:00 Index:42|06:02 Index:43|06:03 Index:44|06:01 Index:46|");
-
-    dialogs.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2026/Apr_Icons.dat"),
+    EXPECT_EQ(saved("2026/Apr_Icons.dat"),
               "06:00 Index:41\r\n07:00 Index:42\r\n06:02 Index:43\r\n06:03 Index:44\r\n06:01 Index:46\r\n");
 }
 
@@ -178,7 +162,10 @@ TEST_F(IconsTest, UnsavedIconsOutliveRedrawsAndAreAskedAboutOnce) {
 }
 
 TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
-    DrawTemplate();
+    TemplateMode = true;
+    TemplateDate = MakeDate(2026, 1, 1);
+    ResetMonthIcons(TemplateDate);
+    ReadTemplateTags();
     DropFromPalette(1, MakeDate(2026, 1, 29));
     DropFromPalette(1, MakeDate(2026, 1, 30));
     EXPECT_FALSE(IconsChanged);
@@ -194,18 +181,16 @@ TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
 TEST_F(IconsTest, BadFilesAreReportedAndKept) {
     std::string full;
     for (int i = 0; i < MostIcons; ++i) full += TextOfIconLine({i / 4, i % 4, 5}) + "\r\n";
-    const std::tuple<const char*, std::string, int> files[] = {
-        {"a bad line", "06:00 Index:41\r\n\r\n07:00 Index:42\r\n", 1},
-        {"palette out of range", "06:00 Index:41\r\n07:00 Index:96\r\n", 1},
-        {"125 lines", full + "00:00 Index:05\r\n", MostIcons}};
-    for (const auto& [name, file, placed] : files) {
+    for (const auto& [file, placed] : {std::pair{std::string("06:00 Index:41\r\n\r\n07:00 Index:42\r\n"), 1},
+                                       {"06:00 Index:41\r\n07:00 Index:96\r\n", 1},
+                                       {full + "00:00 Index:05\r\n", MostIcons}}) {
         folder.put("2026/May_Icons.dat", file);
         dialogs.expect("An error occurred in Read1MonthIcons.");
         EXPECT_EQ(Draw(2026, 5), MonthIcons::Modified);
-        EXPECT_EQ(MonthIconCount, placed) << name;
+        EXPECT_EQ(MonthIconCount, placed) << file;
         dialogs.expect("in the folder \"Backup\"");
         EXPECT_TRUE(Save1MonthIcons());
-        EXPECT_NE(folder.backups().find(file), std::string::npos) << name;
+        EXPECT_NE(folder.backups().find(file), std::string::npos) << file;
     }
 }
 
