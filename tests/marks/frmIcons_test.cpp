@@ -1,7 +1,6 @@
 // The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
 #include "marks/frmIcons.h"
 
-#include "base/diskio.h"
 #include "calendar/modPaint.h"
 #include "forms/qt/canvas.h"
 #include "forms/qt/iconPictures.h"
@@ -13,7 +12,6 @@
 namespace {
 struct IconWindows : WindowTest {
     IconWindows() { std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive); }
-    ~IconWindows() override { SetDisk({}); }
 
     template <class Control>
     static Control* Find(const QWidget* window, const QString& name) {
@@ -39,24 +37,6 @@ TEST_F(IconWindows, PicturesAreTakenInTheirOwnSizeWhereThereIsOne) {
     for (const int side : {16, 24, 32, 48, 20, 40}) EXPECT_EQ(PictureOfSide(pictures, side).width(), side);
     EXPECT_EQ(PictureOfSide(pictures, 24), pictures[1]);
     EXPECT_EQ(IconPixmap(12, 24, 1.5).size(), QSize(36, 36));
-}
-
-TEST_F(IconWindows, ASecondShowingReadsNoFile) {
-    int reads = 0;
-    const DiskCalls real = Disk();
-    DiskCalls counted = real;
-    counted.read = [&](const std::filesystem::path& path) { return ++reads, real.read(path); };
-    SetDisk(counted);
-    for (const bool first : {true, false}) {
-        reads = 0;
-        ShowPaletteWindow();
-        ShowIconTag(3);
-        OpenedWindow<frmIconTag>()->grab();
-        OpenedWindow<frmIcons>()->grab();
-        EXPECT_EQ(reads > 0, first);
-        EXPECT_EQ(PaletteShown, true);
-        UnloadAllWindows();
-    }
 }
 
 TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {

@@ -46,18 +46,20 @@ TEST(Completion, OffersTheFirstTermThatFitsInTheCaseThatIsTyped) {
         int startPosition;
         const char* expected;
     };
-    for (const Row& row : {Row{"|", "ne", 0, "ne[w jersey]"},   Row{"|", "Ne", 0, "Ne[w Jersey]"},
-                           Row{"|", "NE", 0, "NE[W JERSEY]"},   Row{"|", "iPh", 0, "iPh[one]"},
-                           Row{"|", "nEw", 0, "New[ Jersey]"},  Row{"|", "\xE4r", 0, "\xE4r[zte]"},
-                           Row{"|", "b", 0, "b[udget]"},        Row{"|", "bu", 2, "bu"},
-                           Row{"|", "bud", 2, "bud[get]"},      Row{"|", "budget", 0, "budget"},
-                           Row{"|", "bux", 0, "bux"},           Row{"|", "bux<d", 0, "bud[get]"},
-                           Row{"a |", "bu", 0, "a bu[dget]"},   Row{"a\n|", "bu", 0, "a\nbu[dget]"},
-                           Row{"(|", "bu", 0, "(bu"},           Row{"b|", "u", 0, "bu"},
-                           Row{"|dget", "bu", 0, "budget"},     Row{"| x", "bu", 0, "bu[dget] x"},
-                           Row{"|\nx", "bu", 0, "bu[dget]\nx"}, Row{"|", "new ", 0, "new [jersey]"},
-                           Row{"|", "new y", 0, "new y[ork]"},  Row{"|", "new b", 0, "new b[udget]"},
-                           Row{"|", "new\ny", 0, "new\ny"}}) {
+    for (const Row& row :
+         {// in the case that is typed
+          Row{"|", "ne", 0, "ne[w jersey]"}, Row{"|", "Ne", 0, "Ne[w Jersey]"}, Row{"|", "NE", 0, "NE[W JERSEY]"},
+          Row{"|", "iPh", 0, "iPh[one]"}, Row{"|", "nEw", 0, "New[ Jersey]"}, Row{"|", "\xE4r", 0, "\xE4r[zte]"},
+          // from the start position on, while something fits
+          Row{"|", "b", 0, "b[udget]"}, Row{"|", "bu", 2, "bu"}, Row{"|", "bud", 2, "bud[get]"},
+          Row{"|", "budget", 0, "budget"}, Row{"|", "bux", 0, "bux"}, Row{"|", "bux<d", 0, "bud[get]"},
+          // where a word begins and none goes on
+          Row{"a |", "bu", 0, "a bu[dget]"}, Row{"a\n|", "bu", 0, "a\nbu[dget]"}, Row{"(|", "bu", 0, "(bu"},
+          Row{"b|", "u", 0, "bu"}, Row{"|dget", "bu", 0, "budget"}, Row{"| x", "bu", 0, "bu[dget] x"},
+          Row{"|\nx", "bu", 0, "bu[dget]\nx"},
+          // over a blank, not over a line break
+          Row{"|", "new ", 0, "new [jersey]"}, Row{"|", "new y", 0, "new y[ork]"}, Row{"|", "new b", 0, "new b[udget]"},
+          Row{"|", "new\ny", 0, "new\ny"}}) {
         std::string text = row.before;
         const auto caret = text.find('|');
         text.erase(caret, 1);

@@ -1,9 +1,8 @@
-// Searching the notes of a year, and the day's time line.
+// Searching the notes of a year.
 #include "notes/modSearch.h"
 
 #include "base/text.h"
 #include "notes/modNotes.h"
-#include "notes/modTimeLine.h"
 #include "tests/support/planner.h"
 
 namespace {
@@ -64,13 +63,5 @@ TEST_F(SearchTest, OpensAListedNoteOfItsOwnYear) {
     dialogs.expect("Couldn't find note to open.");
     EXPECT_FALSE(OpenListedNote(2026, "03/10/26"));
     NoteEditor = {};
-}
-
-TEST(TimeLine, RunsFromSixInTheMorningToHalfPastElevenAtNight) {
-    const std::string lines = TimeLine();
-    EXPECT_TRUE(lines.starts_with("06:00 AM - \r\n\r\n06:30 AM - \r\n\r\n"));
-    EXPECT_NE(lines.find("11:30 AM - \r\n\r\n12:00 PM - \r\n\r\n12:30 PM - \r\n\r\n01:00 PM - "), std::string::npos);
-    EXPECT_TRUE(lines.ends_with("11:30 PM - \r\n\r\n"));
-    EXPECT_EQ(lines.size(), 36u * std::string("06:00 AM - \r\n\r\n").size());
 }
 }  // namespace
