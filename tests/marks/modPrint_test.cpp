@@ -2,41 +2,24 @@
 #include "marks/modPrint.h"
 
 #include "calendar/modPaint.h"
-#include "forms/printer.h"
-#include "forms/recorder.h"
 #include "tests/marks/month.h"
 #include "tests/support/planner.h"
+#include "tests/support/printer.h"
 
 namespace {
 struct PrintTest : PlannerTest {
     PrintTest() {
         folder.put("Marker Colors.dat", CategoryLines);
-        PrinterCalls calls = SetPrinter({});
-        calls.begin = [this](const std::string& title) {
-            printedTitle = title;
-            return std::make_unique<Sheet>(unitsPerPoint, page);
-        };
-        calls.check = [] {};
-        SetPrinter(calls);
+        printer.unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
         CheckPrinter();
     }
-    ~PrintTest() override { SetPrinter({}); }
-
-    /// The document's canvas goes when it is printed; what it recorded stays with the test.
-    struct Sheet : Recorder {
-        Sheet(double units, std::optional<Recorder>& kept) : Recorder(units), kept_(kept) {}
-        void end() override { Recorder::end(), kept_ = *this; }
-        std::optional<Recorder>& kept_;
-    };
-
     void print(void (*command)() = mnuFilePrintCalendar_Click) {
         page.reset();
         command();
     }
 
-    std::optional<Recorder> page;  // the last page printed
-    std::string printedTitle;
-    double unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
+    RecordedPrinter printer;
+    std::optional<Recorder>& page = printer.page;
 };
 
 TEST_F(PrintTest, DrawsTheMonth) {
@@ -47,7 +30,7 @@ TEST_F(PrintTest, DrawsTheMonth) {
     ReadMonth(2026, 8);
     Icons.badPictures.erase(41);
     print();
-    EXPECT_EQ(printedTitle, "August, 2026");
+    EXPECT_EQ(printer.title, "August, 2026");
     EXPECT_EQ(page->scaleWidth(), 8);
     EXPECT_EQ(page->scaleHeight(), 11);
     for (const char* call : {
@@ -90,7 +73,7 @@ TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
 
 TEST_F(PrintTest, KeepsTheListInsideItsColumns) {
     folder.put("2026Marks.dat", "06:06:00:8388608-" + std::string(200, 'x') + "\r\n");
-    unitsPerPoint = 0.02;  // wide paper: less height for a line
+    printer.unitsPerPoint = 0.02;  // wide paper: less height for a line
     ReadMonth(2026, 7);
     print();
     const auto texts = page->containing("Meeting: xx");
@@ -107,7 +90,7 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
     TemplateMode = true;
     ResetMonthIcons(TemplateDate = MakeDate(2026, 1, 1));
     print();
-    EXPECT_EQ(printedTitle, "Monthly Template");
+    EXPECT_EQ(printer.title, "Monthly Template");
     EXPECT_TRUE(page->containing("'Sun'").empty() && page->containing("Arial 9").empty());
     for (const char* number : {"'28' Arial 18 bold 000000", "'29' Arial 18 bold C0C0C0", "'31' Arial 18 bold 0000FF"})
         EXPECT_EQ(page->containing(number).size(), 1u) << number;

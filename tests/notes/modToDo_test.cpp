@@ -144,5 +144,5 @@ TEST_F(ToDoTest, PrintsEachControlAtItsPlace) {
         EXPECT_EQ(printer.count(call), 1U) << call;
     EXPECT_EQ(printer.count("box "), std::size_t{ToDoRows});
     EXPECT_EQ(printer.count("line "), 2U);
-    EXPECT_EQ(printer.calls().back(), "end");
+    EXPECT_EQ(printer.page->calls().back(), "end");
 }

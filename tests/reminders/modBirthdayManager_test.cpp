@@ -139,12 +139,12 @@ TEST_F(BirthdayManager, Prints42EntriesAPage) {
     PrintBirthdayList(entries);
     EXPECT_EQ(printer.count("Grandpa"), 43U);
     EXPECT_EQ(printer.count("page"), 1U);
-    EXPECT_EQ(printer.calls()[0], "text 1440 1440 '07/04/1931' Times New Roman 11 000000");
+    EXPECT_EQ(printer.page->calls()[0], "text 1440 1440 '07/04/1931' Times New Roman 11 000000");
     dialogs.expect("these 1 pages");
     PrintSelectedBirthdays(std::vector<std::string>(42, "Brown, Ana - 11/23\t\t\t\xE0\x32"));
     EXPECT_EQ(printer.count("page"), 0U);
     EXPECT_EQ(printer.count("'Brown, Ana - 11/23'"), 42U);
-    printer.clear();
+    printer.page.reset();
     PrintBirthdayRecord({"", "07/04"});
     EXPECT_EQ(printer.count(""), 0U);
     PrintBirthdayRecord({"Ann", "07/04/1931", true, 5, "Age = 95"});
