@@ -31,9 +31,6 @@ class SixMonths : public CalendarTest {
     }
     MonthPicture* picture(int index) const { return window_.findChild<MonthPicture*>(ElementName("picMonth", index)); }
     QPushButton* button(int index) const { return window_.findChild<QPushButton*>(ElementName("cmdView", index)); }
-    void clickOn(int index, Date date) const {
-        QTest::mouseClick(picture(index), Qt::LeftButton, {}, MiddleOfDay(picture(index), date));
-    }
 
     frm6Months window_;
     int openedView = 0;
@@ -50,28 +47,14 @@ TEST_F(SixMonths, StandInTwoRowsOfThree) {
     EXPECT_EQ(button(5)->text(), QStringLiteral("March, 2027"));
 }
 
-TEST_F(SixMonths, NextYearsDaysGoToNextYearsFiles) {
-    folder.put("2026Marks.dat", "09:01:01:255-Dentist");  // October 5, 2026
-    folder.put("2027Marks.dat", "00:05:00:255-Brunch\r\n");
-    showFrom(2026, 10);
-    clickOn(3, MakeDate(2027, 1, 5));
-    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 5));
-    dialogs.expectInput("Optional Hover Text for Jan 05, 2027", "Lunch");
-    MarkSelectedDateAs(9);
-    EXPECT_EQ(folder.get("2026Marks.dat"), "09:01:01:255-Dentist");
-    EXPECT_NE(folder.get("2027Marks.dat").find("00:02:01:255-Lunch"), std::string::npos) << folder.get("2027Marks.dat");
-    EXPECT_EQ(ShownMonths[3].painted[2][1], MeetingColor);
-    clickOn(0, MakeDate(2026, 10, 6));
-    QuickMarkSelectedDate();
-    EXPECT_NE(folder.get("2026Marks.dat").find("09:02:01:8421376"), std::string::npos);
-}
-
-TEST_F(SixMonths, AButtonOpensItsMonthAndKeysLeafThrough) {
+TEST_F(SixMonths, KeysLeafThroughDaysAreClickedAndAButtonOpensItsMonth) {
     showFrom(2026, 10);
     QTest::keyClick(&window_, Qt::Key_Right);
     EXPECT_EQ(button(0)->text(), QStringLiteral("April, 2027"));
     EXPECT_FALSE(SpansNextYear);
     QTest::keyClick(&window_, Qt::Key_Left);
+    QTest::mouseClick(picture(3), Qt::LeftButton, {}, MiddleOfDay(picture(3), MakeDate(2027, 1, 5)));
+    EXPECT_TRUE(SelectedInNextYear && SelectedDate == MakeDate(2027, 1, 5));
     button(3)->click();
     EXPECT_EQ(openedView, 1);
     EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 1));

@@ -35,16 +35,6 @@ TEST_F(CalendarTest, HoldersOfEveryYearShowEachDateInItsCell) {
     }
 }
 
-TEST_F(CalendarTest, HoldersAreClearedWithTheMarks) {
-    show(MakeDate(2009, 2, 7));
-    bool marksCleared = false;
-    ClearMarkFlags = [&] { marksCleared = true; };
-    ClearDateHolders();
-    ClearMarkFlags = {};
-    EXPECT_TRUE(marksCleared);
-    ForEachCell([](Cell cell) { EXPECT_EQ(DateHolders[cell].view(), std::string_view("\0\0\0\0\0\0\0\0", 8)); });
-}
-
 TEST_F(CalendarTest, PartsFollowTheSelectedDate) {
     SelectDate(MakeDate(2009, 2, 7));
     EXPECT_EQ(SelectedDateText, "02/07/09");

@@ -49,11 +49,9 @@ TEST(MonthGrid, RefusesWhatLiesOutside) {
 
 TEST(MonthGrid, HasAPlaceOfItsOwnForEachCell) {
     Grid<int> grid;
-    std::set<std::string> texts;
     int count = 0;
-    ForEachCell([&](Cell cell) { grid[cell] = ++count, texts.insert(CellText(cell)); });
-    EXPECT_EQ(count, 504);
-    EXPECT_EQ(texts.size(), 504u);
     int expected = 0;
+    ForEachCell([&](Cell cell) { grid[cell] = ++count; });
     ForEachCell([&](Cell cell) { ASSERT_EQ(grid(cell.month, cell.column, cell.row), ++expected); });
+    EXPECT_EQ(expected, 504);
 }

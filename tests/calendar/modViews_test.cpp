@@ -103,17 +103,6 @@ TEST_F(Views, NothingOfAnotherYearShows) {
     for (int day = 1; day <= 31; ++day) EXPECT_EQ(hoverText(2027, 12, day), "");
 }
 
-TEST_F(Views, RedrawByACommandKeepsTheMonthsOnDisplay) {
-    show(6, 2026, 9, 1);
-    ASSERT_TRUE(click(2027, 1, 5));
-    EXPECT_TRUE(SelectedInNextYear);
-    RedrawCalendar();
-    EXPECT_EQ(monthCaptions[0], "September, 2026");
-    EXPECT_EQ(Calendar.yearOnDisplay, 2026);
-    EXPECT_FALSE(SelectedInNextYear);
-    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 5));
-}
-
 TEST_F(Views, RepaintDrawsTheSameFromTheTables) {
     folder.put("Holidays/2026Holidays.dat", "12/25/26:Christmas Day\r\n");
     for (const int view : {1, 12}) {

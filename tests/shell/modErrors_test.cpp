@@ -47,17 +47,18 @@ TEST_F(ErrorReports, AppendWithoutReadingOrReplacingTheLog) {
 }
 
 TEST_F(ErrorReports, ShowBothMessagesWhereNothingCanBeWritten) {
+    const auto report = [&] {
+        dialogs.expect("An error occurred in ReadAlerts.");
+        dialogs.expect(Refused);
+        ReportError("ReadAlerts", 53, "File not found");
+    };
     std::filesystem::create_directory(folder.path() / "Error.log");
-    dialogs.expect("An error occurred in ReadAlerts.");
-    dialogs.expect(Refused);
-    ReportError("ReadAlerts", 53, "File not found");
+    report();
 #ifdef __linux__
     std::filesystem::remove(folder.path() / "Error.log");
     MemoryDisk disk(folder.path(), "size=64k");
     if (!disk.makeReadOnly()) GTEST_SKIP() << "a read-only disk can be mounted by root only";
-    dialogs.expect("An error occurred in ReadAlerts.");
-    dialogs.expect(Refused);
-    ReportError("ReadAlerts", 53, "File not found");
+    report();
     EXPECT_FALSE(folder.has("Error.log"));
 #endif
 }
