@@ -3,7 +3,6 @@
 
 #include <chrono>
 
-#include "base/diskio.h"
 #include "base/modNoCase.h"
 #include "base/state.h"
 #include "tests/support/planner.h"

@@ -1,8 +1,6 @@
 // Pointing at days: what a click selects, what the hover says, in every view.
 #include "calendar/modSelection.h"
 
-#include "calendar/modCalendar.h"
-#include "marks/modCategories.h"
 #include "notes/modNotes.h"
 #include "reminders/modBirthdays.h"
 #include "tests/support/calendar.h"

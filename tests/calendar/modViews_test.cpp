@@ -1,10 +1,7 @@
 // What the views draw, read as recorded text; which months they show; what they tell the main window.
 #include "calendar/modViews.h"
 
-#include "calendar/modCalendar.h"
 #include "calendar/modNavigation.h"
-#include "calendar/modPaint.h"
-#include "marks/modCategories.h"
 #include "tests/support/calendar.h"
 
 namespace {

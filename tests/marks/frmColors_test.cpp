@@ -1,7 +1,6 @@
 // The window of captions and colours.
 #include "marks/frmColors.h"
 
-#include "base/text.h"
 #include "tests/support/window_test.h"
 
 namespace {

@@ -2,7 +2,6 @@
 #include "marks/frmIcons.h"
 
 #include "calendar/modPaint.h"
-#include "forms/qt/canvas.h"
 #include "forms/qt/iconPictures.h"
 #include "marks/frmIconTag.h"
 #include "marks/frmPlacedIcons.h"

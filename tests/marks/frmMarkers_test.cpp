@@ -1,7 +1,6 @@
 // The window of displayed categories.
 #include "marks/frmMarkers.h"
 
-#include "base/text.h"
 #include "marks/modMarkerDisplay.h"
 #include "tests/support/calendar.h"
 #include "tests/support/window_test.h"

@@ -1,6 +1,5 @@
 // The categories' file: read, edited, refused, saved.
 #include "marks/modCategories.h"
-#include "base/text.h"
 #include "tests/marks/month.h"
 #include "tests/support/planner.h"
 

@@ -1,8 +1,6 @@
 // Icons: the lines and files, placing them on real months and on the template's, dropping, moving, removing, saving.
 #include "marks/modIcons.h"
 
-#include "base/text.h"
-#include "calendar/modCalendar.h"
 #include "marks/modSaveChanges.h"
 #include "tests/support/planner.h"
 

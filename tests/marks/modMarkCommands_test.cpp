@@ -1,10 +1,6 @@
 // Marking days in the views, and taking marks away.
 #include "marks/modMarkCommands.h"
 
-#include "calendar/modCalendar.h"
-#include "calendar/modPaint.h"
-#include "calendar/modSelection.h"
-#include "marks/modCategories.h"
 #include "marks/modLabels.h"
 #include "marks/modMarkerDisplay.h"
 #include "marks/modMarks.h"

@@ -1,7 +1,6 @@
 // Marks files read, painted and saved: what they hold is never lost, never another year's.
 #include "marks/modMarks.h"
 
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"

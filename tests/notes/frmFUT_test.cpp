@@ -1,7 +1,6 @@
 // The terms window and its dialogs.
 #include "notes/frmFUT.h"
 
-#include "calendar/modCalendar.h"
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"
 #include "notes/frmNotes.h"

@@ -1,7 +1,6 @@
 // The help window and the side panel's help.
 #include "notes/frmHelp.h"
 
-#include "forms/qt/text.h"
 #include "marks/frmColors.h"
 #include "notes/frmHelpPanel.h"
 #include "notes/frmToDo.h"

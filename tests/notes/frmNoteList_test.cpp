@@ -1,7 +1,6 @@
 // The note list and the search window.
 #include "notes/frmNoteList.h"
 
-#include "calendar/modCalendar.h"
 #include "notes/frmNotes.h"
 #include "notes/frmSearch.h"
 #include "notes/modNotes.h"

@@ -1,7 +1,6 @@
 // The notes editor: typing with completion, saving, closing, searching, printing.
 #include "notes/frmNotes.h"
 
-#include "base/text.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"

@@ -1,7 +1,6 @@
 // Lists of terms: their files, and that no term gets lost with them.
 #include "notes/modFUT.h"
 
-#include "base/text.h"
 #include "shell/modPreferences.h"
 #include "tests/support/planner.h"
 

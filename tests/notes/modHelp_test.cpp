@@ -1,7 +1,6 @@
 // Help topics: what files mean, and the search through them.
 #include "notes/modHelp.h"
 
-#include "base/text.h"
 #include "tests/support/planner.h"
 
 namespace {

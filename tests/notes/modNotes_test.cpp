@@ -1,7 +1,6 @@
 // The notes store: its tables, its files, and what must not get lost in them.
 #include "notes/modNotes.h"
 
-#include "base/diskio.h"
 #include "marks/modSaveChanges.h"
 #include "tests/support/planner.h"
 

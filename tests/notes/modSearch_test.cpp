@@ -1,7 +1,6 @@
 // Searching the notes of a year.
 #include "notes/modSearch.h"
 
-#include "base/text.h"
 #include "notes/modNotes.h"
 #include "tests/support/planner.h"
 

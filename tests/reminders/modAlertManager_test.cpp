@@ -1,7 +1,6 @@
 // The alert manager's lists and edits. Today is November 22, 2026: day 46348.
 #include "reminders/modAlertManager.h"
 
-#include "calendar/modCalendar.h"
 #include "reminders/modAlerts.h"
 #include "tests/support/planner.h"
 

@@ -1,7 +1,6 @@
 // The birthday store: reading, what is pending, cells, saving.
 #include "reminders/modBirthdays.h"
 
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"

@@ -1,7 +1,6 @@
 // The holiday manager's list.
 #include "reminders/modHolidayManager.h"
 
-#include "calendar/modCalendar.h"
 #include "reminders/modHolidays.h"
 #include "tests/support/planner.h"
 

@@ -1,7 +1,6 @@
 // The holiday tables and their painting.
 #include "reminders/modHolidays.h"
 
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"

@@ -1,11 +1,7 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
-#include "base/text.h"
-#include "calendar/frmMonth.h"
 #include "calendar/frmYear.h"
-#include "calendar/modCalendar.h"
-#include "calendar/modPaint.h"
 #include "marks/modMarks.h"
 #include "marks/modSaveChanges.h"
 #include "shell/modPreferences.h"

@@ -1,7 +1,6 @@
 // Error reports: the box and the log.
 #include "shell/modErrors.h"
 
-#include "base/diskio.h"
 #include "tests/support/planner.h"
 
 namespace {

@@ -1,7 +1,6 @@
 // The preferences' lines: read, applied, written back, and never lost.
 #include "shell/modPreferences.h"
 
-#include "base/diskio.h"
 #include "forms/printer.h"
 #include "tests/support/planner.h"
 

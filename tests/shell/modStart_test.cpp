@@ -1,8 +1,6 @@
 // Start-up without windows and the commands of the pickers.
 #include "shell/modStart.h"
 
-#include "calendar/modCalendar.h"
-#include "marks/modCategories.h"
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "shell/modShortcuts.h"

@@ -1,12 +1,6 @@
 // A calendar without windows.
 #include "tests/support/calendar.h"
 
-#include "calendar/modCalendar.h"
-#include "calendar/modSelection.h"
-#include "calendar/modShell.h"
-#include "calendar/modViews.h"
-#include "marks/modCategories.h"
-
 CalendarTest::CalendarTest() {
     InstallViews();
     Calendar.startedOn = MakeDate(2026, 11, 22);

@@ -7,8 +7,12 @@
 #include <string>
 #include <vector>
 
-#include "base/dates.h"
+#include "calendar/modPaint.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
 #include "forms/recorder.h"
+#include "marks/modCategories.h"
 #include "tests/support/planner.h"
 
 class CalendarTest : public PlannerTest {

@@ -12,7 +12,10 @@
 #include <tuple>
 #include <vector>
 
+#include "base/diskio.h"
 #include "base/errors.h"
+#include "base/text.h"
+#include "calendar/modCalendar.h"
 #include "tests/support/dialogs.h"
 #include "tests/support/disk.h"
 #include "tests/support/folder.h"

@@ -5,7 +5,8 @@
 #include <QtWidgets>
 
 #include "calendar/frmMonth.h"
-#include "calendar/modGrid.h"
+#include "forms/qt/canvas.h"
+#include "forms/qt/text.h"
 #include "forms/qt/window.h"
 #include "tests/support/planner.h"
 
