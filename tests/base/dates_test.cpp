@@ -88,12 +88,11 @@ TEST(Dates, EveryShortDateReadsBack) {
 
 TEST(Dates, TimesAreWrittenInPatterns) {
     const Date day = MakeDate(2026, 11, 22);
-    const std::tuple<int, const char*, const char*> rows[] = {{0, "11/22/2026 12:00:00 AM", "00:00"},
-                                                              {3661, "11/22/2026 1:01:01 AM", "01:01"},
-                                                              {43200, "11/22/2026 12:00:00 PM", "12:00"},
-                                                              {70745, "11/22/2026 7:39:05 PM", "19:39"},
-                                                              {86399, "11/22/2026 11:59:59 PM", "23:59"}};
-    for (const auto& [second, general, short24] : rows) {
+    using Row = std::tuple<int, const char*, const char*>;
+    for (const auto& [second, general, short24] :
+         {Row{0, "11/22/2026 12:00:00 AM", "00:00"}, Row{3661, "11/22/2026 1:01:01 AM", "01:01"},
+          Row{43200, "11/22/2026 12:00:00 PM", "12:00"}, Row{70745, "11/22/2026 7:39:05 PM", "19:39"},
+          Row{86399, "11/22/2026 11:59:59 PM", "23:59"}}) {
         EXPECT_EQ(GeneralDate({day, second}), general);
         EXPECT_EQ(FormatTime(second, "hh:mm"), short24);
     }

@@ -83,10 +83,6 @@ TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
         window->cmdSave->click();
         EXPECT_EQ(window->lblMarker[0]->text(), caption);
     }
-    type(QStringLiteral("A"));
-    QTest::mouseClick(window->cmdColor[1], Qt::LeftButton);
-    dialogs.expect("You cannot use the same color twice.");
-    window->cmdSave->click();
     EXPECT_EQ(folder.get("Marker Colors.dat"), file);
     EXPECT_EQ(OpenedWindow<frmColors>(), window);
 }

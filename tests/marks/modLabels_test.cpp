@@ -31,6 +31,11 @@ TEST_F(LabelsTest, ListByDayHolidaysBirthdaysMarks) {
               "12: Meeting: Budget review|");
     EXPECT_EQ(DayLabels.labels[1].color, 8388736u);
     EXPECT_EQ(MonthIconFile, "Jul_Icons.dat");
+    MarkLines.emplace_back("06:00");
+    dialogs.expect("An error occurred in DisplayTTTLabels.");
+    DisplayTTTLabels();
+    EXPECT_EQ(DayLabels.labels.size(), 6u) << "a failure keeps the labels there were";
+    MarkLines.pop_back();
 
     for (const auto category : {3u, 4u, 8u}) MarkerHidden[category] = true;
     DisplayTTTLabels();
@@ -55,14 +60,5 @@ TEST_F(LabelsTest, ThirtySixFitAndTheLatestGo) {
     DisplayTTTLabels();
     EXPECT_EQ(DayLabels.labels.size(), 36u);
     EXPECT_EQ(CaptionOf(DayLabels.labels.back()), "30: Meeting: number 30");
-}
-
-TEST_F(LabelsTest, FailuresKeepTheLabelsThereWere) {
-    ReadMonth(2026, 7);
-    DisplayTTTLabels();
-    MarkLines.emplace_back("06:00");
-    dialogs.expect("An error occurred in DisplayTTTLabels.");
-    DisplayTTTLabels();
-    EXPECT_EQ(DayLabels.labels.size(), 6u);
 }
 }  // namespace

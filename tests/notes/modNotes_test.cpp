@@ -70,16 +70,6 @@ TEST_F(NotesTest, OfNextYearKeepToTheirOwnFile) {
     EXPECT_EQ(YearOfSlot(ThisYear), 2031);
 }
 
-TEST_F(NotesTest, AreStoredUnderTheDateTheEditorShows) {
-    SelectDate(MakeDate(2026, 3, 4));
-    DisplayThisNote();
-    typed = "of March";
-    SelectDate(MakeDate(2026, 8, 9));  // a click on another day while the editor is open
-    dialogs.expect("Notes Saved");
-    EXPECT_TRUE(SaveOpenNote());
-    EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
-}
-
 TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
     const std::string lines = "03/04/26:020300:first\r\n03/04/26:020300:second\r\n";
     folder.put("2026/notes.dat", lines);
@@ -165,12 +155,17 @@ TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
     EXPECT_FALSE(NoteDeletePending);
 }
 
-TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayClose) {
-    write(3, 4, "a");
+TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayCloseAndAreStoredUnderTheDateItShows) {
+    SelectDate(MakeDate(2026, 3, 4));
+    DisplayThisNote();
+    typed = "of March";
     stays = true;
-    SelectDate(MakeDate(2026, 5, 1));
+    SelectDate(MakeDate(2026, 5, 1));  // another day while the editor is open
     DisplayThisNote();
     EXPECT_EQ(shownCaption, "Notes for March 04, 2026");
+    dialogs.expect("Notes Saved");
+    EXPECT_TRUE(SaveOpenNote());
+    EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
     stays = false;
     DisplayThisNote();
     EXPECT_EQ(shownCaption + typed, "Notes for May 01, 2026");

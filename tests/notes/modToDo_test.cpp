@@ -36,45 +36,33 @@ struct ToDoTest : PlannerTest {
 }  // namespace
 
 TEST_F(ToDoTest, FilesAsTheyAreRead) {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string rows;
-        bool tooLong = false;
-        bool backup = false;
-    };
-    const std::string empty10 = "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
-    for (const Row& row :
-         {Row{"ten", TenRows, "+one|two||+| five |six \xF3 and \xF5||||+ten"},
-          Row{"three, the last without an end",
-              "\xF3"
-              "a\n\xF5"
-              "b\n\xF5"
-              "c",
-              "+a|b|c|||||||"},
-          Row{"ten empty lines", empty10, "|||||||||"},
-          Row{"eleven", TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
-          Row{"no mark", "Milk\r\n", "ilk|||||||||", false, true}, Row{"no bytes", "", "|||||||||"}}) {
-        SCOPED_TRACE(row.name);
+    using Row = std::tuple<std::string, std::string, bool, bool>;
+    for (const auto& [file, rows, tooLong, backup] :
+         {Row{TenRows, "+one|two||+| five |six \xF3 and \xF5||||+ten", false, false},
+          Row{"\xF3x\n\xF5y\n\xF5z", "+x|y|z|||||||", false, false},  // the last without an end
+          Row{"\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n", "|||||||||", false, false},
+          Row{TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
+          Row{"Milk\r\n", "ilk|||||||||", false, true}, Row{"", "|||||||||", false, false}}) {
+        SCOPED_TRACE(file);
         const TemporaryFolder fresh;
-        if (row.tooLong) dialogs.expect("ReadToDoList");
-        open(row.file, fresh);
-        EXPECT_EQ(Edited(), row.rows);
+        if (tooLong) dialogs.expect("ReadToDoList");
+        open(file, fresh);
+        EXPECT_EQ(Edited(), rows);
         EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);
         save();
-        EXPECT_EQ(fresh.backups(), row.backup ? row.file : "");
+        EXPECT_EQ(fresh.backups(), backup ? file : "");
     }
 }
 
 TEST_F(ToDoTest, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
     int shown = 0;
     ShowToDo = [&shown] { ++shown; };
-    folder.put("To Do.dat", "\xF3 \r\n\xF3two\r\n");
-    ReadToDoList();
-    EXPECT_EQ(Panel(), "+|+two||||||||");
-    folder.put("To Do.dat", "\r\n\r\n");
-    ReadToDoList();
-    EXPECT_EQ(Panel(), "+|+||||||||");
+    for (const auto& [file, rows] :
+         {std::pair{"\xF3 \r\n\xF3two\r\n", "+|+two||||||||"}, {"\r\n\r\n", "+|+||||||||"}}) {
+        folder.put("To Do.dat", file);
+        ReadToDoList();
+        EXPECT_EQ(Panel(), rows);
+    }
     std::filesystem::remove(folder.path() / "To Do.dat");
     ReadToDoList();
     EXPECT_EQ(Panel(), "|||||||||");

@@ -16,17 +16,12 @@ struct BirthdayManager : PlannerTest {
 };
 
 TEST_F(BirthdayManager, PutsTheSurnameFirst) {
+    using Row = std::pair<const char*, const char*>;
     for (const auto& [name, key] :
-         std::vector<std::pair<std::string, std::string>>{{"First Last Jr.", "Last, First Jr."},
-                                                          {"First Last, Jr.", "Last, First, Jr."},
-                                                          {"Anna", "Anna"},
-                                                          {" Mary Ann  Smith ", "Smith, Mary Ann"},
-                                                          {"Ian Ivory", "Ivory, Ian"},
-                                                          {"Karl Keller III", "Keller, Karl III"},
-                                                          {"Bo Srbic SR", "Srbic, Bo SR"},
-                                                          {"Bo Lee Jr. II", "Lee, Bo Jr. II"},
-                                                          {"Madonna Jr", "Madonna Jr"},
-                                                          {"", ""}})
+         {Row{"First Last Jr.", "Last, First Jr."}, Row{"First Last, Jr.", "Last, First, Jr."}, Row{"Anna", "Anna"},
+          Row{" Mary Ann  Smith ", "Smith, Mary Ann"}, Row{"Ian Ivory", "Ivory, Ian"},
+          Row{"Karl Keller III", "Keller, Karl III"}, Row{"Bo Srbic SR", "Srbic, Bo SR"},
+          Row{"Bo Lee Jr. II", "Lee, Bo Jr. II"}, Row{"Madonna Jr", "Madonna Jr"}, Row{"", ""}})
         EXPECT_EQ(BirthdayNameKey(name), key);
 }
 
@@ -87,12 +82,12 @@ TEST_F(BirthdayManager, KeepsWhatALineHoldsBesidesItsFields) {
 
 TEST_F(BirthdayManager, RefusesWhatIsNoBirthday) {
     open("07/04:07:Grandpa:1931\r\n");
+    using Row = std::tuple<const char*, const char*, const char*, BirthdayField>;
     for (const auto& [name, date, message, field] :
-         std::vector<std::tuple<const char*, const char*, const char*, BirthdayField>>{
-             {"  ", "1/2/1990", "Please enter a name in the box provided.", BirthdayField::Name},
-             {"Ann: B", "1/2/1990", "cannot hold \":\"", BirthdayField::Name},
-             {"Ann", "2/30/1990", "Please enter a date.", BirthdayField::Date},
-             {"Ann", "2/29/1960", "February 29 cannot be entered", BirthdayField::Date}}) {
+         {Row{"  ", "1/2/1990", "Please enter a name in the box provided.", BirthdayField::Name},
+          Row{"Ann: B", "1/2/1990", "cannot hold \":\"", BirthdayField::Name},
+          Row{"Ann", "2/30/1990", "Please enter a date.", BirthdayField::Date},
+          Row{"Ann", "2/29/1960", "February 29 cannot be entered", BirthdayField::Date}}) {
         dialogs.expect(message);
         EXPECT_EQ(SaveBirthday({name, date}), field) << message;
     }
@@ -137,13 +132,11 @@ TEST_F(BirthdayManager, Prints42EntriesAPage) {
     EXPECT_EQ(printer.count(""), 0U);
     dialogs.expect("Beginning Print Process");
     PrintBirthdayList(entries);
-    EXPECT_EQ(printer.count("Grandpa"), 43U);
-    EXPECT_EQ(printer.count("page"), 1U);
+    EXPECT_TRUE(printer.count("Grandpa") == 43 && printer.count("page") == 1);
     EXPECT_EQ(printer.page->calls()[0], "text 1440 1440 '07/04/1931' Times New Roman 11 000000");
     dialogs.expect("these 1 pages");
     PrintSelectedBirthdays(std::vector<std::string>(42, "Brown, Ana - 11/23\t\t\t\xE0\x32"));
-    EXPECT_EQ(printer.count("page"), 0U);
-    EXPECT_EQ(printer.count("'Brown, Ana - 11/23'"), 42U);
+    EXPECT_TRUE(printer.count("page") == 0 && printer.count("'Brown, Ana - 11/23'") == 42);
     printer.page.reset();
     PrintBirthdayRecord({"", "07/04"});
     EXPECT_EQ(printer.count(""), 0U);

@@ -20,7 +20,6 @@ TEST_F(ToolWindows, DateBoxesFollowEachOther) {
     OpenDateDiff("Months");
     auto* window = OpenedWindow<frmDateDiff>();
     EXPECT_EQ(window->txtInput[1]->text(), QStringLiteral("Nov 22, 2026"));
-    EXPECT_EQ(window->cmbYear[1]->currentText(), QStringLiteral("2026"));
     window->cmbYear[0]->setCurrentIndex(1);
     EXPECT_EQ(window->txtInput[0]->text(), QStringLiteral("Nov 22, 2009"));
     window->cmbMonth[0]->setCurrentIndex(1);
@@ -105,7 +104,6 @@ TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
     FixClock(2026, 12, 31, 23, 59, 30);
     OpenAlarm();
     auto* window = OpenedWindow<frmAlarm>();
-    EXPECT_FALSE(window->cmdStart->isVisible());
     dialogs.expect("A valid time has not been entered.");
     window->cmdAM->click();
     QTest::keyClicks(window->txtTime, QStringLiteral("9a9999:x00"));
@@ -113,11 +111,9 @@ TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
     dialogs.expect("valid time in the Time Box before.");
     window->cmdPM->click();
     window->cmdHour[11]->click();
-    EXPECT_EQ(window->txtTime->text(), QStringLiteral("12:00"));
     window->cmdAM->click();
     EXPECT_EQ(window->lblAlarm->text(), QStringLiteral("Time is Set for 12:00 AM. Click Start to Begin."));
     window->cmdStart->click();
-    EXPECT_EQ(window->cmdStart->text(), QStringLiteral("Reset"));
     EXPECT_FALSE(window->cmdHour[0]->isEnabled());
     window->Timer1_Timer();
     EXPECT_TRUE(window->Timer1.isActive());
@@ -136,15 +132,14 @@ TEST_F(ToolWindows, ResetEmptiesTheAlarmAndThereIsOneWindow) {
     window->cmdMinute[1]->click();
     window->cmdHour[6]->click();
     window->cmdPM->click();
+    EXPECT_EQ(window->lblAlarm->text(), QStringLiteral("Time is Set for 7:05 PM. Click Start to Begin."));
     window->cmdStart->click();
     window->cmdStart->click();
-    EXPECT_FALSE(window->cmdStart->isVisible() || window->Timer1.isActive());
-    EXPECT_EQ(window->txtTime->text(), QString());
+    EXPECT_FALSE(window->cmdStart->isVisible() || window->Timer1.isActive() || !window->txtTime->text().isEmpty());
     window->cmdHour[0]->click();
     EXPECT_EQ(window->txtTime->text(), QStringLiteral("1:00")) << "the minutes chosen before are forgotten";
     OpenAlarm();
-    EXPECT_EQ(OpenedWindow<frmAlarm>(), window);
-    EXPECT_TRUE(window->isMaximized());
+    EXPECT_TRUE(OpenedWindow<frmAlarm>() == window && window->isMaximized());
     window->cmdExit->click();
     EXPECT_EQ(OpenedWindow<frmAlarm>(), nullptr);
 }

@@ -16,22 +16,6 @@ TEST(Alarm, ReadsTimes) {
     EXPECT_THROW(ReadAlarmTime("70000:00 AM"), Error);
 }
 
-TEST(Alarm, ButtonsCompleteTheTime) {
-    AlarmState alarm;
-    ChooseAlarmMinute(alarm, ":05");
-    EXPECT_FALSE(SetAlarmHalf(alarm, "AM") || ArmAlarm(alarm, {}));
-    alarm = {};
-    ChooseAlarmHour(alarm, "7");
-    EXPECT_TRUE(SetAlarmHalf(alarm, "AM"));
-    EXPECT_EQ(alarm.alarmText, "7:00 AM");
-    ChooseAlarmMinute(alarm, ":55");
-    ChooseAlarmHour(alarm, "12");
-    EXPECT_TRUE(SetAlarmHalf(alarm, "PM"));
-    EXPECT_EQ(alarm.alarmText, "12:55 PM");
-    alarm.timeText = "99";
-    EXPECT_FALSE(SetAlarmHalf(alarm, "PM") || ArmAlarm(alarm, {})) << "the time set before is gone";
-}
-
 TEST(Alarm, RingsAtItsMinuteAlsoOverMidnight) {
     const Date day = MakeDate(2026, 12, 31);
     const auto at = [&](int days, int hour, int minute, int second) {
