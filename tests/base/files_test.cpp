@@ -1,18 +1,11 @@
 // Whole files on disks that work and disks that fail; the guard of what nobody has read.
 #include "base/files.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
 #include <chrono>
 
-#include "base/diskio.h"
-#include "base/errors.h"
 #include "base/modNoCase.h"
 #include "base/state.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/disk.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 #ifdef __unix__
 #include <sys/stat.h>
@@ -23,44 +16,21 @@ namespace fs = std::filesystem;
 using namespace std::string_literals;
 
 namespace {
-/// The number of the error that the call throws, 0 if it throws none.
-template <class Call>
-int ErrorOf(Call call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
-}
-
-class Files : public testing::Test {
-  protected:
+struct Files : PlannerTest {
     Path at(std::string_view name) const { return folder.path() / name; }
-    std::size_t entries(std::string_view name = "") const {
-        return static_cast<std::size_t>(std::distance(fs::directory_iterator(at(name)), {}));
-    }
-    TemporaryFolder folder;
+    long entries() const { return std::distance(fs::directory_iterator(folder.path()), {}); }
 };
 using Guard = Files;
 }  // namespace
 
 TEST_F(Files, AreReadIntoLines) {
-    const struct {
-        const char* name;
-        std::string bytes;
-        std::vector<std::string_view> lines;
-    } rows[] = {{"empty", "", {}},
-                {"CR LF", "a\r\nb\r\n", {"a", "b"}},
-                {"bare LF", "a\nb\n", {"a", "b"}},
-                {"mixed", "a\nb\r\n\r\n\nc", {"a", "b", "", "", "c"}},
-                {"no end", "a\r\nb", {"a", "b"}},
-                {"half an end", "a\r\nb\r", {"a", "b"}},
-                {"only an end", "\r\n", {""}},
-                {"CR inside", "a\rb\r\n", {"a\rb"}},
-                {"two CR", "a\r\r\n", {"a\r"}},
-                {"NUL", "a\0b\r\n\0"s, {std::string_view("a\0b", 3), std::string_view("\0", 1)}}};
-    for (const auto& row : rows) EXPECT_EQ(LinesOf(row.bytes), row.lines) << row.name;
+    using Row = std::pair<std::string, std::vector<std::string_view>>;
+    for (const auto& [bytes, lines] :
+         {Row{"", {}}, Row{"a\r\nb\r\n", {"a", "b"}}, Row{"a\nb\n", {"a", "b"}},
+          Row{"a\nb\r\n\r\n\nc", {"a", "b", "", "", "c"}}, Row{"a\r\nb", {"a", "b"}}, Row{"a\r\nb\r", {"a", "b"}},
+          Row{"\r\n", {""}}, Row{"a\rb\r\n", {"a\rb"}}, Row{"a\r\r\n", {"a\r"}},
+          Row{"a\0b\r\n\0"s, {std::string_view("a\0b", 3), std::string_view("\0", 1)}}})
+        EXPECT_EQ(LinesOf(bytes), lines) << bytes;
 }
 
 TEST_F(Files, AreWrittenAsTheyAre) {
@@ -74,7 +44,7 @@ TEST_F(Files, AreWrittenAsTheyAre) {
     DeleteFile(at("log"));
     DeleteFile(at("a.dat"));
     DeleteFile(at("a.dat"));
-    EXPECT_EQ(entries(), 0u);
+    EXPECT_EQ(entries(), 0);
     MakeFolder(at("2009/deep"));
     MakeFolder(at("2009/deep"));
     EXPECT_TRUE(fs::is_directory(at("2009/deep")));
@@ -157,7 +127,7 @@ TEST_F(Files, StayWholeWhenTheDiskIsFull) {
         EXPECT_EQ(ErrorOf([&] { AppendToFile(at("log"), longer); }), DiskFull) << size;
     }
     EXPECT_TRUE(folder.get("a.dat") == old && folder.get("log") == old);
-    EXPECT_EQ(entries(), 2u);
+    EXPECT_EQ(entries(), 2);
 
     const MemoryDisk disk(folder.path(), "size=64k");
     if (!disk.mounted()) GTEST_SKIP() << "a small disk can be mounted by root only";
@@ -171,7 +141,7 @@ TEST_F(Files, StayWholeWhenTheDiskIsFull) {
         EXPECT_TRUE(folder.get("a.dat") == (error == 0 ? bytes : before)) << size;
     }
     EXPECT_GT(refused, 40);
-    EXPECT_EQ(entries(), 1u);
+    EXPECT_EQ(entries(), 1);
 }
 
 TEST_F(Files, OfAReadOnlyDiskAreRefusedAndStay) {
@@ -200,8 +170,7 @@ TEST_F(Files, AreFoundIgnoringCase) {
     EXPECT_FALSE(FileExists(at("none"), "alerts.dat"));
     EXPECT_TRUE(FolderExists(folder.path(), "Backup"));
     EXPECT_FALSE(FolderExists(folder.path(), "Alerts.dat"));
-    ScriptedDialogs boxes;
-    boxes.expect(
+    dialogs.expect(
         "Error encountered during Events Folder check.\r\nError Number: 76\r\nError Description: Path not found");
     EXPECT_FALSE(FolderExists(at("none"), "2009"));
 }
@@ -216,46 +185,24 @@ TEST_F(Guard, KeepsWhatWasNotReadToItsEnd) {
             if (line == "bad") throw Error(number + 100);
         });
     };
-    const struct {
+    const auto faulty = [&] { EXPECT_EQ(ErrorOf(fail), 102); };
+    struct Row {
         const char* name;
         std::function<void()> before;
         bool kept;
-    } rows[] = {{"read", readAll, false},
-                {"never read", [] {}, true},
-                {"a bad line", [&] { EXPECT_EQ(ErrorOf(fail), 102); }, true},
-                {"read, then a bad line",
-                 [&] {
-                     readAll();
-                     EXPECT_EQ(ErrorOf(fail), 102);
-                 },
-                 true},
-                {"a line passed over",
-                 [&] {
-                     readAll();
-                     MarkNotFullyRead(at("a.dat"));
-                 },
-                 true},
-                {"read, then changed by somebody",
-                 [&] {
-                     readAll();
-                     folder.put("a.dat", "ONE\r\nbad\r\nthree\r\n");
-                 },
-                 true},
-                {"read, tables cleared",
-                 [&] {
-                     readAll();
-                     ClearAllState();
-                 },
-                 true},
-                {"deleted by somebody",
-                 [&] {
-                     readAll();
-                     fs::remove(at("a.dat"));
-                 },
-                 false},
-                {"what is to be saved already", [&] { folder.put("a.dat", "saved"); }, false},
-                {"empty", [&] { folder.put("a.dat", ""); }, false}};
-    for (const auto& row : rows) {
+    };
+    const Row rows[] = {
+        {"read", readAll, false},
+        {"never read", [] {}, true},
+        {"a bad line", faulty, true},
+        {"read, then a bad line", [&] { readAll(), faulty(); }, true},
+        {"a line passed over", [&] { readAll(), MarkNotFullyRead(at("a.dat")); }, true},
+        {"read, then changed by somebody", [&] { readAll(), folder.put("a.dat", "ONE\r\nbad\r\nthree\r\n"); }, true},
+        {"read, tables cleared", [&] { readAll(), ClearAllState(); }, true},
+        {"deleted by somebody", [&] { readAll(), fs::remove(at("a.dat")); }, false},
+        {"what is to be saved already", [&] { folder.put("a.dat", "saved"); }, false},
+        {"empty", [&] { folder.put("a.dat", ""); }, false}};
+    for (const Row& row : rows) {
         SCOPED_TRACE(row.name);
         const TemporaryFolder fresh;
         SetDataFolder(folder.path());
@@ -309,13 +256,9 @@ TEST_F(Guard, RefusesTheSaveWhenTheCopyFails) {
     folder.put("Backup", "a file where the folder should be");
     for (const auto& change : {+[](const Path& path) { return SaveDataFile(path, "new"); },
                                +[](const Path& path) { return DeleteDataFile(path); }}) {
-        try {
-            change(at("a.dat"));
-            ADD_FAILURE() << "was not refused";
-        } catch (const Error& error) {
-            EXPECT_EQ(error.number(), PathFileAccess);
-            EXPECT_NE(std::string(error.what()).find("\"a.dat\" could not be copied to \"Backup\""), std::string::npos);
-        }
+        std::string told;
+        EXPECT_EQ(ErrorOf([&] { change(at("a.dat")); }, &told), PathFileAccess);
+        EXPECT_NE(told.find("\"a.dat\" could not be copied to \"Backup\""), std::string::npos);
         EXPECT_EQ(folder.get("a.dat"), "unread");
     }
 }
@@ -327,13 +270,9 @@ TEST_F(Guard, TellsOfTheCopyAlsoWhenTheSaveFails) {
                  if (path.filename() == "a.dat") throw Error(DiskFull);
                  write(path, bytes);
              }});
-    try {
-        SaveDataFile(at("a.dat"), "new");
-        ADD_FAILURE() << "did not fail";
-    } catch (const Error& error) {
-        EXPECT_EQ(error.number(), DiskFull);
-        EXPECT_NE(std::string(error.what()).find("Disk full\r\nThe file \"a.dat\" as it was"), std::string::npos);
-    }
+    std::string told;
+    EXPECT_EQ(ErrorOf([&] { SaveDataFile(at("a.dat"), "new"); }, &told), DiskFull);
+    EXPECT_NE(told.find("Disk full\r\nThe file \"a.dat\" as it was"), std::string::npos);
     SetDisk({});
     EXPECT_EQ(SaveDataFile(at("a.dat"), "new"), "") << "the copy is there already";
     EXPECT_EQ(folder.backups(), "unread");

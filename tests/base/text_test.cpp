@@ -1,28 +1,13 @@
 // Text as the files hold it: the code page, letter case, list order, pieces and numbers.
 #include "base/text.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
-#include "base/errors.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::string AllBytes() {
     std::string all;
     for (int code = 0; code < 256; ++code) all += static_cast<char>(code);
     return all;
-}
-
-/// The number of the error that the call throws, 0 if it throws none.
-template <class Call>
-int ErrorOf(Call call) {
-    try {
-        call();
-    } catch (const Error& error) {
-        return error.number();
-    }
-    return 0;
 }
 }  // namespace
 
@@ -37,20 +22,18 @@ TEST(Text, EveryByteSurvivesTheWayOutAndBack) {
 }
 
 TEST(Text, WhatIsNoTextOfTheCodePageBecomesQuestionMarks) {
-    const struct {
-        const char* utf8;
-        const char* text;
-    } rows[] = {{"Ж1", "?1"},
-                {"\xF0\x9F\x99\x82.", "?."},  // beyond 16 bits
-                {"\xC2\x80", "?"},            // U+0080 has no code
-                {"a\xFF"
-                 "b",
-                 "a?b"},                            // no UTF-8 at all
-                {"\xE2\x82", "??"},                 // cut off
-                {"\xC0\xAF", "??"},                 // "/" in two bytes
-                {"\xE0\x80\xAF", "???"},            // "/" in three
-                {"\xF8\x80\x80\x80\x80", "?????"},  // a length that does not exist
-                {"\xC3(", "?("}};
+    const std::pair<const char*, const char*> rows[] = {
+        {"Ж1", "?1"},
+        {"\xF0\x9F\x99\x82.", "?."},  // beyond 16 bits
+        {"\xC2\x80", "?"},            // U+0080 has no code
+        {"a\xFF"
+         "b",
+         "a?b"},                            // no UTF-8 at all
+        {"\xE2\x82", "??"},                 // cut off
+        {"\xC0\xAF", "??"},                 // "/" in two bytes
+        {"\xE0\x80\xAF", "???"},            // "/" in three
+        {"\xF8\x80\x80\x80\x80", "?????"},  // a length that does not exist
+        {"\xC3(", "?("}};
     for (const auto& [utf8, text] : rows) EXPECT_EQ(TextOfUtf8(utf8), text) << text;
     EXPECT_EQ(CodeOf(0x80), -1);
     EXPECT_EQ(CodeOf(0x81), 0x81);
@@ -73,27 +56,14 @@ TEST(Text, CaseMappingPairsTheLettersThatHaveTwoForms) {
 }
 
 TEST(Text, IsFoundIgnoringCase) {
-    const struct {
-        const char* text;
-        const char* phrase;
-        std::size_t from;
-        std::size_t at;
-    } rows[] = {{"A Dentist", "DENT", 0, 2},
-                {"xXxy", "xy", 0, 2},
-                {"dDdD", "dd", 1, 1},
-                {"abc", "abcd", 0, std::string::npos},
-                {"abc", "", 3, 3},
-                {"abc", "", 4, std::string::npos},
-                {"\xC9t\xE9", "\xC9", 1, 2},
-                {"12-12", "12", 1, 3},
-                {"aab", "ab", 0, 1},
-                {"abc", "c", 2, 2},
-                {"abc", "a", 1, std::string::npos},
-                {"aaXaaaab", "AAAB", 0, 4},
-                {"abcabcab", "cab", 3, 5},
-                {"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15},
-                {"a calendar viewer", "Calendar View", 2, 2}};
-    for (const auto& [text, phrase, from, at] : rows) EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
+    using Row = std::tuple<const char*, const char*, std::size_t, std::size_t>;
+    for (const auto& [text, phrase, from, at] :
+         {Row{"A Dentist", "DENT", 0, 2}, Row{"xXxy", "xy", 0, 2}, Row{"dDdD", "dd", 1, 1},
+          Row{"abc", "abcd", 0, std::string::npos}, Row{"abc", "", 3, 3}, Row{"abc", "", 4, std::string::npos},
+          Row{"\xC9t\xE9", "\xC9", 1, 2}, Row{"12-12", "12", 1, 3}, Row{"aab", "ab", 0, 1}, Row{"abc", "c", 2, 2},
+          Row{"abc", "a", 1, std::string::npos}, Row{"aaXaaaab", "AAAB", 0, 4}, Row{"abcabcab", "cab", 3, 5},
+          Row{"The \xC4rger, the \xE4rger", "\xE4RGER", 5, 15}, Row{"a calendar viewer", "Calendar View", 2, 2}})
+        EXPECT_EQ(FindIgnoringCase(text, phrase, from), at) << text;
     for (std::size_t at = 0; at < 300; ++at) {
         const std::string text = std::string(at, 'e') + "Tea" + std::string(299 - at, 'T');
         EXPECT_EQ(FindIgnoringCase(text, "TEA"), at);
@@ -104,32 +74,10 @@ TEST(Text, IsFoundIgnoringCase) {
 }
 
 TEST(Text, ListOrderIsLettersThenAccentsThenCodes) {
-    const std::vector<std::string> ordered{"",
-                                           " a",
-                                           "-",
-                                           "\x80",
-                                           "1",
-                                           "10",
-                                           "2",
-                                           "A",
-                                           "a",
-                                           "AB",
-                                           "ab",
-                                           "\xC4"
-                                           "b",
-                                           "aC",
-                                           "\xC6"
-                                           "a",
-                                           "B",
-                                           "co-op",
-                                           "coat",
-                                           "coop",
-                                           "\xC9",
-                                           "\xE9",
-                                           "Eb",
-                                           "z",
-                                           "\x9E",
-                                           "zz"};
+    const auto ordered = Pieces(
+        "| a|-|\x80|1|10|2|A|a|AB|ab|\xC4"
+        "b|aC|\xC6"
+        "a|B|co-op|coat|coop|\xC9|\xE9|Eb|z|\x9E|zz");
     for (std::size_t i = 0; i < ordered.size(); ++i)
         for (std::size_t j = 0; j < ordered.size(); ++j) {
             const int order = CompareInListOrder(ordered[i], ordered[j]);
@@ -162,26 +110,12 @@ TEST(Text, PiecesStayWithinTheText) {
 }
 
 TEST(Text, NumbersAreReadWholeOrRefused) {
-    const struct {
-        const char* text;
-        std::int64_t value;
-        int error;
-    } rows[] = {{"7", 7, 0},
-                {" +7 ", 7, 0},
-                {"007", 7, 0},
-                {"-32768", -32768, 0},
-                {"32767", 32767, 0},
-                {"32768", 0, Overflow},
-                {"-32769", 0, Overflow},
-                {"99999999999999999999", 0, Overflow},
-                {"", 0, TypeMismatch},
-                {" ", 0, TypeMismatch},
-                {"-", 0, TypeMismatch},
-                {"+-7", 0, TypeMismatch},
-                {"7a", 0, TypeMismatch},
-                {"1 2", 0, TypeMismatch},
-                {"1.5", 0, TypeMismatch}};
-    for (const auto& [text, value, error] : rows) {
+    using Row = std::tuple<const char*, std::int64_t, int>;
+    for (const auto& [text, value, error] :
+         {Row{"7", 7, 0}, Row{" +7 ", 7, 0}, Row{"007", 7, 0}, Row{"-32768", -32768, 0}, Row{"32767", 32767, 0},
+          Row{"32768", 0, Overflow}, Row{"-32769", 0, Overflow}, Row{"99999999999999999999", 0, Overflow},
+          Row{"", 0, TypeMismatch}, Row{" ", 0, TypeMismatch}, Row{"-", 0, TypeMismatch}, Row{"+-7", 0, TypeMismatch},
+          Row{"7a", 0, TypeMismatch}, Row{"1 2", 0, TypeMismatch}, Row{"1.5", 0, TypeMismatch}}) {
         std::int64_t read = 0;
         EXPECT_EQ(ErrorOf([&read, text = text] { read = SmallIntegerValue(text); }), error) << text;
         EXPECT_EQ(read, value) << text;

@@ -1,31 +1,20 @@
 // The six-month view: its months and buttons, and days of next year marked, noted and kept in next year's files.
 #include "calendar/frm6Months.h"
 
-#include <QTest>
-
-#include "calendar/frmMonth.h"
-#include "calendar/modCalendar.h"
-#include "calendar/modPaint.h"
-#include "calendar/modShell.h"
-#include "calendar/modViews.h"
 #include "marks/modMarkCommands.h"
-#include "marks/modMarks.h"
-#include "notes/modNotes.h"
 #include "tests/support/calendar.h"
+#include "tests/support/window_test.h"
 
 namespace {
 class SixMonths : public CalendarTest {
   protected:
     SixMonths() {
-        putCategories();
         Shell.openView = [this](int view) -> std::vector<Canvas*> {
             if (view == 6) return window_.canvases();
             openedView = view;
             return {};
         };
-        Shell.captionMonth = [this](int index, const std::string& text) {
-            window_.captionMonth(index, QString::fromStdString(text));
-        };
+        Shell.captionMonth = [this](int index, auto& text) { window_.captionMonth(index, FromText(text)); };
         window_.resize(786, 500);
         window_.show();
     }
@@ -37,11 +26,6 @@ class SixMonths : public CalendarTest {
     }
     MonthPicture* picture(int index) const { return window_.findChild<MonthPicture*>(ElementName("picMonth", index)); }
     QPushButton* button(int index) const { return window_.findChild<QPushButton*>(ElementName("cmdView", index)); }
-    void clickOn(int index, Date date) const {
-        const Cell cell = CellOf(date);
-        const QPoint place = picture(index)->fromScale(QRectF(cell.column, cell.row + 0.75, 1, 1)).center();
-        QTest::mouseClick(picture(index), Qt::LeftButton, {}, place);
-    }
 
     frm6Months window_;
     int openedView = 0;
@@ -58,39 +42,14 @@ TEST_F(SixMonths, StandInTwoRowsOfThree) {
     EXPECT_EQ(button(5)->text(), QStringLiteral("March, 2027"));
 }
 
-TEST_F(SixMonths, NextYearsDaysGoToNextYearsFiles) {
-    folder.put("2026Marks.dat", "09:01:01:255-Dentist");  // October 5, 2026
-    folder.put("2027Marks.dat", "00:05:00:255-Brunch\r\n");
-    folder.put("2027/Notes.dat", "");
-    showFrom(2026, 10);
-    clickOn(3, MakeDate(2027, 1, 5));
-    EXPECT_TRUE(SelectedInNextYear);
-    EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 5));
-    dialogs.expectInput("Optional Hover Text for Jan 05, 2027", "Lunch");
-    MarkSelectedDateAs(9);
-    EXPECT_EQ(folder.get("2026Marks.dat"), "09:01:01:255-Dentist");
-    EXPECT_NE(folder.get("2027Marks.dat").find("00:02:01:255-Lunch"), std::string::npos) << folder.get("2027Marks.dat");
-    EXPECT_EQ(NextHoverText[CellOf(SelectedDate)], "Lunch");
-    EXPECT_EQ(HoverText[CellOf(SelectedDate)], "");
-    EXPECT_EQ(ShownMonths[3].painted[2][1], MeetingColor);
-
-    clickOn(3, MakeDate(2027, 1, 1));
-    ClearMarkFromSelectedDate();
-    EXPECT_EQ(folder.get("2027Marks.dat").find("Brunch"), std::string::npos);
-    EXPECT_EQ(button(0)->text(), QStringLiteral("October, 2026")) << "a command keeps the months on display";
-
-    clickOn(0, MakeDate(2026, 10, 6));
-    EXPECT_FALSE(SelectedInNextYear);
-    QuickMarkSelectedDate();
-    EXPECT_NE(folder.get("2026Marks.dat").find("09:02:01:8421376"), std::string::npos);
-}
-
-TEST_F(SixMonths, AButtonOpensItsMonthAndKeysLeafThrough) {
+TEST_F(SixMonths, KeysLeafThroughDaysAreClickedAndAButtonOpensItsMonth) {
     showFrom(2026, 10);
     QTest::keyClick(&window_, Qt::Key_Right);
     EXPECT_EQ(button(0)->text(), QStringLiteral("April, 2027"));
     EXPECT_FALSE(SpansNextYear);
     QTest::keyClick(&window_, Qt::Key_Left);
+    QTest::mouseClick(picture(3), Qt::LeftButton, {}, MiddleOfDay(picture(3), MakeDate(2027, 1, 5)));
+    EXPECT_TRUE(SelectedInNextYear && SelectedDate == MakeDate(2027, 1, 5));
     QTest::keyClick(button(3), Qt::Key_Return);
     EXPECT_EQ(openedView, 1);
     EXPECT_EQ(SelectedDate, MakeDate(2027, 1, 1));

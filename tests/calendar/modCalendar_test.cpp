@@ -1,14 +1,10 @@
 // The selected date and the date holders.
 #include "calendar/modCalendar.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class CalendarTest : public testing::Test {
-  protected:
+struct CalendarTest : PlannerTest {
     ~CalendarTest() override { RedrawForDate = {}; }
     /// Makes the date's year the first slot's, with both slots' holders assigned.
     static void show(Date date) {
@@ -18,11 +14,6 @@ class CalendarTest : public testing::Test {
         AssignNextYearsDateholders();
         AssignThisYearsDateHolders();
     }
-    static std::string holder(int month, int column, int row) {
-        const auto& found = DateHolders(month, column, row);
-        return found.empty() ? "" : std::string(found.view());
-    }
-    TemporaryFolder folder;
 };
 }  // namespace
 
@@ -42,22 +33,6 @@ TEST_F(CalendarTest, HoldersOfEveryYearShowEachDateInItsCell) {
             ASSERT_EQ(filled, DaysInYear(year + slot)) << year + slot;
         }
     }
-}
-
-TEST_F(CalendarTest, HoldersOfKnownDates) {
-    show(MakeDate(2009, 2, 7));
-    EXPECT_EQ(holder(0, 4, 0), "01/01/09");
-    EXPECT_EQ(holder(0, 3, 0), "");
-    EXPECT_EQ(holder(7, 1, 5), "08/31/09");
-    EXPECT_EQ(holder(11, 4, 4), "12/31/09");
-    bool marksCleared = false;
-    ClearMarkFlags = [&] { marksCleared = true; };
-    ClearDateHolders();
-    ClearMarkFlags = {};
-    EXPECT_TRUE(marksCleared);
-    ForEachCell([](Cell cell) { EXPECT_EQ(DateHolders[cell].view(), std::string_view("\0\0\0\0\0\0\0\0", 8)); });
-    show(MakeDate(2008, 5, 5));
-    EXPECT_EQ(holder(1, 5, 4), "02/29/08");
 }
 
 TEST_F(CalendarTest, PartsFollowTheSelectedDate) {
@@ -86,8 +61,7 @@ TEST_F(CalendarTest, SlotOfLoadsAYearThatNeitherSlotHolds) {
 }
 
 TEST_F(CalendarTest, AYearWithoutANextOneIsReported) {
-    ScriptedDialogs boxes;
-    boxes.expect("An error occurred in AssignNextYearsDateholders.");
+    dialogs.expect("An error occurred in AssignNextYearsDateholders.");
     show(MakeDate(9999, 12, 31));
-    EXPECT_EQ(holder(11, 5, 4), "12/31/99");
+    EXPECT_EQ(DateHolders(11, 5, 4).view(), "12/31/99");
 }

@@ -1,21 +1,10 @@
 // The window of captions and colours.
 #include "marks/frmColors.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QClipboard>
-#include <QTest>
-#include <tuple>
-
-#include "base/text.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct ColorsWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct ColorsWindow : WindowTest {
     std::string file;
     frmColors* window = nullptr;
 
@@ -26,7 +15,6 @@ struct ColorsWindow : testing::Test {
         ReadMarkerColors();
         window = ShowWindow<frmColors>();
     }
-    ~ColorsWindow() override { UnloadAllWindows(); }
     void click(int label) const {
         QTest::mouseClick(window->lblMarker[static_cast<std::size_t>(label)], Qt::LeftButton);
     }
@@ -95,10 +83,6 @@ TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
         window->cmdSave->click();
         EXPECT_EQ(window->lblMarker[0]->text(), caption);
     }
-    type(QStringLiteral("A"));
-    QTest::mouseClick(window->cmdColor[1], Qt::LeftButton);
-    dialogs.expect("You cannot use the same color twice.");
-    window->cmdSave->click();
     EXPECT_EQ(folder.get("Marker Colors.dat"), file);
     EXPECT_EQ(OpenedWindow<frmColors>(), window);
 }

@@ -1,44 +1,23 @@
 // The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
 #include "marks/frmIcons.h"
 
-#include <gtest/gtest.h>
-
 #include <QClipboard>
-#include <QDir>
-#include <QDropEvent>
-#include <QLineEdit>
-#include <QMimeData>
-#include <QPushButton>
-#include <QSet>
-#include <QTest>
 
-#include "base/diskio.h"
-#include "base/errors.h"
 #include "calendar/modPaint.h"
-#include "forms/qt/canvas.h"
 #include "forms/qt/iconPictures.h"
 #include "marks/frmIconTag.h"
 #include "marks/frmPlacedIcons.h"
 #include "marks/modIcons.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-class IconWindows : public testing::Test {
-  protected:
+struct IconWindows : WindowTest {
     IconWindows() { std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive); }
-    ~IconWindows() override {
-        UnloadAllWindows();
-        SetDisk({});
-    }
 
     template <class Control>
     static Control* Find(const QWidget* window, const QString& name) {
         return window->findChild<Control*>(name);
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
@@ -49,8 +28,7 @@ TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
     }
     ReadIconTags();
     std::set<std::string> captions(IconCaption.begin(), IconCaption.end());
-    EXPECT_EQ(captions.size(), static_cast<std::size_t>(PaletteSize));
-    EXPECT_FALSE(captions.contains(""));
+    EXPECT_TRUE(captions.size() == PaletteSize && !captions.contains(""));
     EXPECT_TRUE(folder.has("Images/License of the pictures.txt"));
 }
 
@@ -61,28 +39,10 @@ TEST_F(IconWindows, PicturesAreTakenInTheirOwnSizeWhereThereIsOne) {
     EXPECT_EQ(IconPixmap(12, 24, 1.5).size(), QSize(36, 36));
 }
 
-TEST_F(IconWindows, ASecondShowingReadsNoFile) {
-    int reads = 0;
-    const DiskCalls real = Disk();
-    DiskCalls counted = real;
-    counted.read = [&](const std::filesystem::path& path) { return ++reads, real.read(path); };
-    SetDisk(counted);
-    for (const bool first : {true, false}) {
-        reads = 0;
-        ShowPaletteWindow();
-        ShowIconTag(3);
-        OpenedWindow<frmIconTag>()->grab();
-        OpenedWindow<frmIcons>()->grab();
-        EXPECT_EQ(reads > 0, first);
-        EXPECT_EQ(PaletteShown, true);
-        UnloadAllWindows();
-    }
-}
-
 TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     folder.put("Images/7.ico", "no picture at all");
     std::filesystem::remove(folder.path() / "Images" / "9.ico");
-    boxes.expect("(the file \"Images\\7.ico\")");
+    dialogs.expect("(the file \"Images\\7.ico\")");
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     palette->grab();
@@ -95,15 +55,13 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     auto* dentist = Find<IconImage>(palette, QStringLiteral("imgIcon(12)"));
-    EXPECT_EQ(dentist->toolTip(), QStringLiteral("Dentist"));
     QTest::mouseClick(dentist, Qt::RightButton);
     auto* manager = OpenedWindow<frmIconTag>();
-    ASSERT_NE(manager, nullptr);
     auto* caption = Find<QLineEdit>(manager, QStringLiteral("txtTag"));
     EXPECT_EQ(caption->selectedText(), QStringLiteral("Dentist"));
 
     caption->setText(QString(QChar(0x4E2D)));  // a character that the files do not have
-    boxes.expect("cannot be saved");
+    dialogs.expect("cannot be saved");
     auto* save = Find<QPushButton>(manager, QStringLiteral("cmdSave"));
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), manager);
@@ -112,21 +70,20 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     caption->selectAll();
     caption->paste();
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    boxes.expect("An error occurred in SaveIconTags.");
+    dialogs.expect("An error occurred in SaveIconTags.");
     save->click();
     EXPECT_EQ(IconCaption[12], "Dentist") << "what was not saved is not shown";
     SetDisk({});
     QTest::mouseClick(Find<IconImage>(manager, QStringLiteral("imgIcon(143)")), Qt::LeftButton);
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), nullptr);
-    EXPECT_EQ(dentist->toolTip(), QStringLiteral("Dr. Müller: teeth"));
-    EXPECT_EQ(dentist->picture(), 143);
+    EXPECT_TRUE(dentist->toolTip() == QStringLiteral("Dr. Müller: teeth") && dentist->picture() == 143);
     EXPECT_NE(folder.get("Icon Tags.dat").find("143:Dr. M\xFCller: teeth\r\n013:"), std::string::npos);
 }
 
 TEST_F(IconWindows, NothingIsDraggedWithoutAMonth) {
     ShowPaletteWindow();
-    boxes.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
+    dialogs.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
     QTest::mouseClick(Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(0)")), Qt::LeftButton);
     EXPECT_EQ(DragKind, Drag::None);
 }
@@ -139,15 +96,8 @@ TEST_F(IconWindows, DropsShowTheIconOnItsDay) {
     ResetMonthIcons(MakeDate(2026, 4, 1));
 
     BeginDragFromPalette(12);
-    QMimeData data;
-    data.setData(QStringLiteral("application/x-tasmoro-icon"), "12");
     // Tuesday, April 7th: the third column of the second row.
-    const QPoint point(2.5 * 593 / 7, 2.25 * 467 / 6.75);
-    QDragEnterEvent enter(point, Qt::MoveAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&month, &enter);
-    QDropEvent drop(point, Qt::MoveAction, &data, Qt::LeftButton, {});
-    QCoreApplication::sendEvent(&month, &drop);
-    EXPECT_TRUE(drop.isAccepted());
+    EXPECT_TRUE(DragAndDrop(&month, QPoint(2.5 * 593 / 7, 2.25 * 467 / 6.75), "application/x-tasmoro-icon", "12"));
     EXPECT_EQ(MonthIconLines[0], "06:00 Index:12");
     EXPECT_EQ(icons->placeOf(0), QRect(173, 170, 20, 20));
     const QPoint middle = icons->placeOf(0).center();

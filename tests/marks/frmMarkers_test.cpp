@@ -1,28 +1,20 @@
 // The window of displayed categories.
 #include "marks/frmMarkers.h"
 
-#include <gtest/gtest.h>
-
-#include "base/text.h"
 #include "marks/modMarkerDisplay.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/calendar.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct MarkersWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct MarkersWindow : WindowTest {
     frmMarkers* window = nullptr;
 
     MarkersWindow() {
-        std::string file;
-        for (std::size_t k = 0; k < CategoryCount; ++k)
-            file += MarkerCaption[k] + ":" + std::to_string(MarkerPalette[k]) + (k == 3 ? "*" : "") + CrLf;
-        folder.put("Marker Colors.dat", file);
+        PutCategories(folder);
+        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "5\r\nBirthday", "5*\r\nBirthday"));
         ReadMarkerColors();
         window = ShowWindow<frmMarkers>();
     }
-    ~MarkersWindow() override { UnloadAllWindows(); }
     int checked() const {
         return static_cast<int>(std::count_if(window->chkMarker.begin(), window->chkMarker.end(),
                                               [](const QCheckBox* box) { return box->isChecked(); }));

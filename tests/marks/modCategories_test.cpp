@@ -1,23 +1,12 @@
 // The categories' file: read, edited, refused, saved.
 #include "marks/modCategories.h"
-
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/disk.h"
-#include "tests/support/folder.h"
+#include "tests/marks/month.h"
+#include "tests/support/planner.h"
 
 namespace {
 const std::string File = "Marker Colors.dat";
-const std::string Full =
-    "Account Payable:128\r\nAccount Receivable:32768\r\nAnniversary:16711935\r\nAppointment:16711680\r\n"
-    "Birthday:8388736\r\nCelebration:33023\r\nDining:16512\r\nEvent:8421376\r\nHoliday:255*\r\nMeeting:8388608\r\n"
-    "Quick Marks:12632256\r\nToday's Date:65535\r\nTravel:65280*\r\nVacation:16776960\r\n";
-const std::string Starless = [](std::string file) {
-    std::erase(file, '*');
-    return file;
-}(Full);
+const std::string Starless = CategoryLines;
+const std::string Full = Replaced(Replaced(Starless, "Holiday:255", "Holiday:255*"), "Travel:65280", "Travel:65280*");
 
 /// A file with the line of Birthday replaced.
 std::string With(const std::string& line, std::string file = Full) {
@@ -25,9 +14,7 @@ std::string With(const std::string& line, std::string file = Full) {
     return file.replace(file.find(old), old.size(), line);
 }
 
-struct CategoriesTest : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct CategoriesTest : PlannerTest {
     void read(const std::string& bytes) {
         folder.put(File, bytes);
         ReadMarkerColors();
@@ -75,62 +62,44 @@ TEST_F(CategoriesTest, EditedLabelsAreCheckedSavedAndReadBack) {
     dialogs.expect("Marker Colors Saved.");
     EXPECT_TRUE(SaveEditedLabels(edited));
     EXPECT_EQ(folder.get(File), "Bills*:32896" + Starless.substr(Starless.find('\r')));
-    EXPECT_EQ(Hidden(), 2u) << "the display keeps its state";
-}
-
-TEST_F(CategoriesTest, OpeningTheLabelsAgainKeepsWhatIsOnDisplay) {
-    read(Full);
-    MarkerHidden[8] = false;
-    CloseMarkerLabels();
     OpenMarkerLabels();
-    EXPECT_TRUE(MarkersLoaded);
-    EXPECT_FALSE(MarkerHidden[8]);
+    EXPECT_TRUE(MarkersLoaded && Hidden() == 2) << "the display keeps its state";
 }
 
 TEST_F(CategoriesTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
-    struct Row {
-        std::string file;
-        const char* error;  // "" for lines that are read but would be written otherwise
-        int read;           // categories in effect
-    };
-    for (const Row& row : std::vector<Row>{{Full + "More:1\r\n", "Number: 9", 14},
-                                           {Full + Full, "(line 15 of the file \"Marker Colors.dat\")", 14},
-                                           {With("Birthday:"), "Number: 13", 4},
-                                           {With("Birthday"), "Number: 13", 4},
-                                           {With("Birth: day:255"), "Number: 13", 4},
-                                           {With("Birthday:-1"), "Number: 6", 4},
-                                           {With("Birthday:16777216"), "Number: 6", 4},
-                                           {With(std::string(20, '\0')), "Number: 13", 4},
-                                           {With("Birthday: 8388736", Starless), "", 14},
-                                           {"", "Number: 62", 0}}) {
-        SCOPED_TRACE(row.file);
-        const TemporaryFolder fresh;
-        fresh.put(File, row.file);
-        if (*row.error != '\0') dialogs.expect(row.error);
+    const auto read = [] {
         ReadMarkerColors();
-        EXPECT_EQ(std::count(MarkerColor.begin(), MarkerColor.end(), 0u), 14 - row.read);
+        return 14 - static_cast<int>(std::count(MarkerColor.begin(), MarkerColor.end(), 0u));
+    };
+    const auto save = [&] {
         dialogs.expect("Marker Colors Saved.");
-        EXPECT_TRUE(SaveMarkerColors());
-        EXPECT_EQ(fresh.backups(), row.file);
-        dialogs.verify();
-    }
+        return SaveMarkerColors();
+    };
+    expectKept(File,
+               {{Full + "More:1\r\n", "Number: 9", 14},
+                {Full + Full, "(line 15 of the file \"Marker Colors.dat\")", 14},
+                {With("Birthday:"), "Number: 13", 4},
+                {With("Birthday"), "Number: 13", 4},
+                {With("Birth: day:255"), "Number: 13", 4},
+                {With("Birthday:-1"), "Number: 6", 4},
+                {With("Birthday:16777216"), "Number: 6", 4},
+                {With(std::string(20, '\0')), "Number: 13", 4},
+                {With("Birthday: 8388736", Starless), "", 14},
+                {"", "Number: 62", 0}},
+               read, save);
 }
 
 TEST_F(CategoriesTest, SurviveBeingCutAtEveryByte) {
-    const UnsyncedDisk quick;
-    for (std::size_t length = 1; length < Full.size(); ++length) {
-        SCOPED_TRACE(length);
-        const TemporaryFolder fresh;
-        const std::string cut = Full.substr(0, length);
+    ForEachCut(Full, [&](const std::string& cut, const TemporaryFolder& fresh) {
         fresh.put(File, cut);
-        if (length <= Full.find("16776960")) dialogs.expect("ReadMarkerColors");
+        if (cut.size() <= Full.find("16776960")) dialogs.expect("ReadMarkerColors");
         ReadMarkerColors();
         dialogs.expect("Marker Colors Saved.");
         SaveHiddenMarks = true;
         EXPECT_TRUE(SaveMarkerColors());
         EXPECT_TRUE(fresh.get(File).starts_with(cut) || fresh.backups() == cut);
         dialogs.verify();
-    }
+    });
 }
 
 TEST_F(CategoriesTest, MissingFileLeavesTheCaptionsAndAFailedSaveTheLabels) {

@@ -1,7 +1,6 @@
 // Attaching hover texts.
 #include "marks/modHoverText.h"
 
-#include "calendar/modCalendar.h"
 #include "marks/modMarks.h"
 #include "tests/support/calendar.h"
 

@@ -1,22 +1,15 @@
 // Icons: the lines and files, placing them on real months and on the template's, dropping, moving, removing, saving.
 #include "marks/modIcons.h"
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "calendar/modCalendar.h"
 #include "marks/modSaveChanges.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class IconsTest : public testing::Test {
-  protected:
+struct IconsTest : PlannerTest {
     IconsTest() {
         std::string tags;
         for (int slot = 0; slot < PaletteSize; ++slot)
-            tags += std::string(slot < 10 ? "00" : "0") + std::to_string(slot) + ":Caption " + std::to_string(slot) +
-                    "\r\n";
+            tags += Padded(slot, 3) + ":Caption " + std::to_string(slot) + "\r\n";
         folder.put("Icon Tags.dat", tags);
         for (int picture = 0; picture < LibrarySize; ++picture)
             folder.put("Images/" + std::to_string(picture) + ".ico", "picture");
@@ -29,22 +22,15 @@ class IconsTest : public testing::Test {
         return PlaceMonthIcons();
     }
 
-    static void DrawTemplate() {
-        TemplateMode = true;
-        TemplateDate = MakeDate(2026, 1, 1);
-        ResetMonthIcons(TemplateDate);
-        ReadTemplateTags();
+    /// Saves the month's icons and answers the file's bytes.
+    std::string saved(const char* file) {
+        dialogs.expect("Calendar Saved.");
+        EXPECT_TRUE(Save1MonthIcons());
+        return folder.get(file);
     }
 
-    static void DropOn(Date date) {
-        const Cell cell = CellOf(date);
-        DropIcon(cell.column + 0.5, cell.row + 1.25);
-    }
-
-    static void DropFromPalette(int slot, Date date) {
-        BeginDragFromPalette(slot);
-        DropOn(date);
-    }
+    static void DropOn(Date date) { DropIcon(CellOf(date).column + 0.5, CellOf(date).row + 1.25); }
+    static void DropFromPalette(int slot, Date date) { BeginDragFromPalette(slot), DropOn(date); }
 
     /// The tags of the icons to be seen, in the order of their controls.
     static std::string Visible() {
@@ -53,33 +39,15 @@ class IconsTest : public testing::Test {
             if (icon.visible) tags += icon.tag + "|";
         return tags;
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(IconsTest, ReadsLinesAndRefusesWhatIsNone) {
     EXPECT_EQ(IconLineOf("06:02 Index:41"), (IconLine{6, 2, 41}));
     EXPECT_EQ(TextOfIconLine({30, 0, 7}), "30:00 Index:07");
-    const struct {
-        const char* line;
-        int error;
-    } bad[] = {{"", TypeMismatch},
-               {"06:02", TypeMismatch},
-               {"xx:02 Index:41", TypeMismatch},
-               {"06:02 Index:", TypeMismatch},
-               {"31:02 Index:41", SubscriptOutOfRange},
-               {"06:04 Index:41", SubscriptOutOfRange},
-               {"06:02 Index:96", SubscriptOutOfRange},
-               {"06:02 Index:-1", SubscriptOutOfRange}};
-    for (const auto& row : bad) {
-        try {
-            IconLineOf(row.line);
-            ADD_FAILURE() << row.line;
-        } catch (const Error& error) {
-            EXPECT_EQ(error.number(), row.error) << row.line;
-        }
-    }
+    for (const char* line : {"", "06:02", "xx:02 Index:41", "06:02 Index:"})
+        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), TypeMismatch) << line;
+    for (const char* line : {"31:02 Index:41", "06:04 Index:41", "06:02 Index:96", "06:02 Index:-1"})
+        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), SubscriptOutOfRange) << line;
 }
 
 TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
@@ -93,9 +61,7 @@ TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
     EXPECT_DOUBLE_EQ(IconPool[0].top, 2.45);
     EXPECT_TRUE(IconSlotUsed[2][6]);
     EXPECT_EQ(IconCaption[41], "Caption 41");
-    boxes.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), file);
+    EXPECT_EQ(saved("2026/Apr_Icons.dat"), file);
     EXPECT_EQ(folder.backups(), "");
 }
 
@@ -112,22 +78,18 @@ TEST_F(IconsTest, SaysWhatAMonthShows) {
 
 TEST_F(IconsTest, TheTemplatesLastDaysFollowTheMonth) {
     folder.put("Template.dat", "30:00 Index:01\r\n28:01 Index:02\r\n29:02 Index:03\r\n27:00 Index:04\r\n");
-    const struct {
-        int year, month;
-        const char* shown;
-    } months[] = {{2026, 1, "30:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
-                  {2026, 4, "29:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
-                  {2026, 2, "27:00 Index:01|27:02 Index:03|27:01 Index:04|"},  // two icons of one slot: the next free
-                  {2028, 2, "28:00 Index:01|28:01 Index:02|28:02 Index:03|27:00 Index:04|"}};
-    for (const auto& row : months) {
-        Draw(row.year, row.month);
-        EXPECT_EQ(Visible(), row.shown) << row.year << "-" << row.month;
+    const std::tuple<int, int, const char*> months[] = {
+        {2026, 1, "30:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
+        {2026, 4, "29:00 Index:01|28:01 Index:02|29:02 Index:03|27:00 Index:04|"},
+        {2026, 2, "27:00 Index:01|27:02 Index:03|27:01 Index:04|"},  // two icons of one slot: the next free
+        {2028, 2, "28:00 Index:01|28:01 Index:02|28:02 Index:03|27:00 Index:04|"}};
+    for (const auto& [year, month, shown] : months) {
+        Draw(year, month);
+        EXPECT_EQ(Visible(), shown) << year << "-" << month;
     }
-    boxes.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2028/Feb_Icons.dat").substr(0, 16), "28:00 Index:01\r\n");  // the month's own day
+    EXPECT_EQ(saved("2028/Feb_Icons.dat").substr(0, 16), "28:00 Index:01\r\n");  // the month's own day
     Draw(2028, 2);
-    EXPECT_EQ(Visible(), months[3].shown);
+    EXPECT_EQ(Visible(), std::get<2>(months[3]));
 }
 
 TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
@@ -136,7 +98,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     for (const int slot : {41, 42, 43, 44}) DropFromPalette(slot, day);
     EXPECT_TRUE(IconsChanged);
     EXPECT_EQ(Visible(), "06:00 Index:41|06:01 Index:42|06:02 Index:43|06:03 Index:44|");
-    boxes.expect("Day Full");
+    dialogs.expect("Day Full");
     DropFromPalette(45, day);
     EXPECT_EQ(IconPool.size(), 4u);
 
@@ -146,7 +108,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     EXPECT_EQ(Visible(), "06:00 Index:41|07:00 Index:42|06:02 Index:43|06:03 Index:44|");
     DropFromPalette(46, day);  // the place that became free
     BeginDragOfIcon(1);
-    boxes.expect("Day Full");
+    dialogs.expect("Day Full");
     DropOn(day);
     BeginDragOfIcon(0);
     DropIcon(0.5, 0.5);  // the header
@@ -155,10 +117,7 @@ TEST_F(IconsTest, DropsFillTheDayAndMovesKeepOneLine) {
     EXPECT_EQ(DragKind, Drag::None);
     EXPECT_TRUE(IconSlotUsed[0][6]);
     EXPECT_EQ(Visible(), "06:00 Index:41|07:00 Index:42|06:02 Index:43|06:03 Index:44|06:01 Index:46|");
-
-    boxes.expect("Calendar Saved.");
-    EXPECT_TRUE(Save1MonthIcons());
-    EXPECT_EQ(folder.get("2026/Apr_Icons.dat"),
+    EXPECT_EQ(saved("2026/Apr_Icons.dat"),
               "06:00 Index:41\r\n07:00 Index:42\r\n06:02 Index:43\r\n06:03 Index:44\r\n06:01 Index:46\r\n");
 }
 
@@ -173,13 +132,13 @@ TEST_F(IconsTest, RemovedControlsAreUsedAgain) {
     RemoveSelectedIcon();  // it is gone already, and the new one was not selected
     EXPECT_EQ(Visible(), "06:00 Index:41|06:01 Index:50|07:00 Index:43|");
 
-    boxes.expect("remove all icons for the entire month", Answer::No);
+    dialogs.expect("remove all icons for the entire month", Answer::No);
     RemoveAllIcons();
     EXPECT_EQ(MonthIconCount, 3);
-    boxes.expect("Preparing to remove all Icons", Answer::Yes);
+    dialogs.expect("Preparing to remove all Icons", Answer::Yes);
     RemoveAllIcons();
     EXPECT_EQ(Visible(), "");
-    boxes.expect("Month Has Changed", Answer::No);
+    dialogs.expect("Month Has Changed", Answer::No);
     EXPECT_TRUE(MayGoOn());
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), "06:00 Index:41\r\n06:01 Index:42\r\n07:00 Index:43\r\n");
 }
@@ -189,12 +148,12 @@ TEST_F(IconsTest, UnsavedIconsOutliveRedrawsAndAreAskedAboutOnce) {
     DropFromPalette(41, MakeDate(2026, 4, 7));
     EXPECT_EQ(Draw(2026, 4), MonthIcons::Modified);
     EXPECT_EQ(Visible(), "06:00 Index:41|");
-    boxes.expect("Do you want to save those changes?", Answer::Cancel);
+    dialogs.expect("Do you want to save those changes?", Answer::Cancel);
     EXPECT_FALSE(MayGoOn());
     EXPECT_TRUE(IconsChanged);
     // A drawing that nobody asked about beforehand: April's icons go to April's file.
-    boxes.expect("Do you want to save those changes?", Answer::Yes);
-    boxes.expect("Calendar Saved.");
+    dialogs.expect("Do you want to save those changes?", Answer::Yes);
+    dialogs.expect("Calendar Saved.");
     Draw(2027, 5);
     EXPECT_EQ(folder.get("2026/Apr_Icons.dat"), "06:00 Index:41\r\n");
     EXPECT_EQ(Visible(), "");
@@ -202,15 +161,18 @@ TEST_F(IconsTest, UnsavedIconsOutliveRedrawsAndAreAskedAboutOnce) {
 }
 
 TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
-    DrawTemplate();
+    TemplateMode = true;
+    TemplateDate = MakeDate(2026, 1, 1);
+    ResetMonthIcons(TemplateDate);
+    ReadTemplateTags();
     DropFromPalette(1, MakeDate(2026, 1, 29));
     DropFromPalette(1, MakeDate(2026, 1, 30));
     EXPECT_FALSE(IconsChanged);
     DropFromPalette(1, MakeDate(2026, 1, 31));
     EXPECT_EQ(TemplateCount, 1);
     EXPECT_EQ(MonthIconCount, 0);
-    boxes.expect("Month Has Changed", Answer::Yes);
-    boxes.expect("Template Saved.");
+    dialogs.expect("Month Has Changed", Answer::Yes);
+    dialogs.expect("Template Saved.");
     EXPECT_TRUE(MayGoOn(true));
     EXPECT_EQ(folder.get("Template.dat"), "30:00 Index:01\r\n");
 }
@@ -218,21 +180,16 @@ TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
 TEST_F(IconsTest, BadFilesAreReportedAndKept) {
     std::string full;
     for (int i = 0; i < MostIcons; ++i) full += TextOfIconLine({i / 4, i % 4, 5}) + "\r\n";
-    const struct {
-        const char* name;
-        std::string file;
-        int placed;
-    } files[] = {{"a bad line", "06:00 Index:41\r\n\r\n07:00 Index:42\r\n", 1},
-                 {"palette out of range", "06:00 Index:41\r\n07:00 Index:96\r\n", 1},
-                 {"125 lines", full + "00:00 Index:05\r\n", MostIcons}};
-    for (const auto& row : files) {
-        folder.put("2026/May_Icons.dat", row.file);
-        boxes.expect("An error occurred in Read1MonthIcons.");
+    for (const auto& [file, placed] : {std::pair{std::string("06:00 Index:41\r\n\r\n07:00 Index:42\r\n"), 1},
+                                       {"06:00 Index:41\r\n07:00 Index:96\r\n", 1},
+                                       {full + "00:00 Index:05\r\n", MostIcons}}) {
+        folder.put("2026/May_Icons.dat", file);
+        dialogs.expect("An error occurred in Read1MonthIcons.");
         EXPECT_EQ(Draw(2026, 5), MonthIcons::Modified);
-        EXPECT_EQ(MonthIconCount, row.placed) << row.name;
-        boxes.expect("in the folder \"Backup\"");
+        EXPECT_EQ(MonthIconCount, placed) << file;
+        dialogs.expect("in the folder \"Backup\"");
         EXPECT_TRUE(Save1MonthIcons());
-        EXPECT_NE(folder.backups().find(row.file), std::string::npos) << row.name;
+        EXPECT_NE(folder.backups().find(file), std::string::npos) << file;
     }
 }
 
@@ -240,15 +197,15 @@ TEST_F(IconsTest, ThePaletteReportsOnceAndLosesNothing) {
     folder.put("Icon Tags.dat", "012:Dentist\r\n1x:Doctor\r\n");
     folder.put("2026/May_Icons.dat", "06:00 Index:00\r\n07:00 Index:20\r\n");
     std::filesystem::remove(folder.path() / "Images" / "20.ico");
-    boxes.expect("An error occurred in ReadIconTags.");
+    dialogs.expect("An error occurred in ReadIconTags.");
     Draw(2026, 5);
     Draw(2026, 5);
     EXPECT_EQ(IconCaption[0], "Dentist");
     EXPECT_EQ(PictureOfSlot(0), 12);
     EXPECT_EQ(PictureOfSlot(95), 95);
-    boxes.expect("An error occurred in ReadIconTags.");
+    dialogs.expect("An error occurred in ReadIconTags.");
     ReadIconTags();
-    boxes.expect("in the folder \"Backup\"");
+    dialogs.expect("in the folder \"Backup\"");
     EXPECT_TRUE(ChangePaletteSlot(1, "Doctor: Anna", 143));
     EXPECT_NE(folder.backups().find("1x:Doctor"), std::string::npos);
     EXPECT_EQ(folder.get("Icon Tags.dat").substr(0, 40), "012:Dentist\r\n143:Doctor: Anna\r\n002:\r\n003");

@@ -1,10 +1,8 @@
 // The day labels of a month.
 #include "marks/modLabels.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/marks/month.h"
-#include "tests/support/dialogs.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::string AllLabels() {
@@ -13,8 +11,7 @@ std::string AllLabels() {
     return all;
 }
 
-class LabelsTest : public testing::Test {
-  protected:
+struct LabelsTest : PlannerTest {
     LabelsTest() {
         folder.put("Marker Colors.dat", CategoryLines);
         folder.put("Holidays/2026Holidays.dat", "07/04/26:Independence Day\r\n08/04/26:Another\r\n");
@@ -24,9 +21,6 @@ class LabelsTest : public testing::Test {
                    "06:00:02:8388608-Budget review\r\n06:01:01:12632256\r\n06:06:00:16711680\r\n07:02:01:8388608\r\n"
                    "06:01:02:1234\r\n");
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(LabelsTest, ListByDayHolidaysBirthdaysMarks) {
@@ -37,6 +31,11 @@ TEST_F(LabelsTest, ListByDayHolidaysBirthdaysMarks) {
               "12: Meeting: Budget review|");
     EXPECT_EQ(DayLabels.labels[1].color, 8388736u);
     EXPECT_EQ(MonthIconFile, "Jul_Icons.dat");
+    MarkLines.emplace_back("06:00");
+    dialogs.expect("An error occurred in DisplayTTTLabels.");
+    DisplayTTTLabels();
+    EXPECT_EQ(DayLabels.labels.size(), 6u) << "a failure keeps the labels there were";
+    MarkLines.pop_back();
 
     for (const auto category : {3u, 4u, 8u}) MarkerHidden[category] = true;
     DisplayTTTLabels();
@@ -57,18 +56,9 @@ TEST_F(LabelsTest, ThirtySixFitAndTheLatestGo) {
 
     PutEntries(folder, 37);
     ReadMonth(2026, 7);
-    boxes.expect("first 36 can be listed. You may wish to hide some of the marks and\r\nrefresh the calendar.");
+    dialogs.expect("first 36 can be listed. You may wish to hide some of the marks and\r\nrefresh the calendar.");
     DisplayTTTLabels();
     EXPECT_EQ(DayLabels.labels.size(), 36u);
     EXPECT_EQ(CaptionOf(DayLabels.labels.back()), "30: Meeting: number 30");
-}
-
-TEST_F(LabelsTest, FailuresKeepTheLabelsThereWere) {
-    ReadMonth(2026, 7);
-    DisplayTTTLabels();
-    MarkLines.emplace_back("06:00");
-    boxes.expect("An error occurred in DisplayTTTLabels.");
-    DisplayTTTLabels();
-    EXPECT_EQ(DayLabels.labels.size(), 6u);
 }
 }  // namespace

@@ -1,17 +1,12 @@
 // Marks files read, painted and saved: what they hold is never lost, never another year's.
 #include "marks/modMarks.h"
 
-#include <gtest/gtest.h>
-
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"
 #include "reminders/modBirthdays.h"
 #include "reminders/modHolidays.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/disk.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 const std::string File = "2026Marks.dat";
@@ -20,9 +15,7 @@ const std::string Full =
     "00:01:04:8388608-Team meeting\r\n01:00:02:12632256\r\n01:03:01:255-Flight - gate B:22\r\n"
     "03:02:01:33023-\xBD day off\r\n11:05:03:16711680";
 
-struct MarksTest : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct MarksTest : PlannerTest {
     Recorder canvas;
 
     MarksTest() { begin(); }
@@ -93,60 +86,50 @@ TEST_F(MarksTest, EachYearKeepsToItsOwnTablesAndFile) {
 
 TEST_F(MarksTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
     const std::string start = "00:01:04:255\r\n";
-    struct Row {
-        std::string file;
-        const char* error;  // "" for lines that are read but would be written otherwise
-        int marks = 1;      // in effect
-    };
-    for (const Row& row : std::vector<Row>{{start + "12:01:01:255\r\n01:00:02:255", "Number: 9"},
-                                           {start + "01:07:01:255\r\n01:00:02:255", "Number: 9"},
-                                           {start + "01:01:06:255", "Number: 9"},
-                                           {start + "01:01:-1:255", "Number: 9"},
-                                           {start + "01:xx:01:255", "Number: 13"},
-                                           {start + "01:01", "Type mismatch (line 2 of the file \""},
-                                           {start + "01:01:01:-text", "Number: 13"},
-                                           {start + "01:01:01:16777216", "Number: 6"},
-                                           {start + "\r\n01:01:01:255", "Number: 13"},
-                                           {start + std::string(40, '\0'), "Number: 13"},
-                                           {Full + Full, "Number: 13", 4},
-                                           {start + "00:01:04:128-later", ""},
-                                           {start + " 1: 1: 1: 255", "", 2}}) {
-        for (const Year slot : {ThisYear, NextYear}) {
-            SCOPED_TRACE(row.file);
-            const TemporaryFolder fresh;
+    const std::vector<FaultyFile> files{{start + "12:01:01:255\r\n01:00:02:255", "Number: 9", 1},
+                                        {start + "01:07:01:255\r\n01:00:02:255", "Number: 9", 1},
+                                        {start + "01:01:06:255", "Number: 9", 1},
+                                        {start + "01:01:-1:255", "Number: 9", 1},
+                                        {start + "01:xx:01:255", "Number: 13", 1},
+                                        {start + "01:01", "Type mismatch (line 2 of the file \"", 1},
+                                        {start + "01:01:01:-text", "Number: 13", 1},
+                                        {start + "01:01:01:16777216", "Number: 6", 1},
+                                        {start + "\r\n01:01:01:255", "Number: 13", 1},
+                                        {start + std::string(40, '\0'), "Number: 13", 1},
+                                        {Full + Full, "Number: 13", 4},
+                                        {start + "00:01:04:128-later", "", 1},
+                                        {start + " 1: 1: 1: 255", "", 2}};
+    for (const Year slot : {ThisYear, NextYear}) {
+        const auto read = [&] {
             begin();
-            fresh.put(slot == ThisYear ? File : NextFile, row.file);
-            if (*row.error != '\0') dialogs.expect(row.error);
             ReadAndDisplayMarks(slot);
-            EXPECT_EQ(MarkedCells(slot), row.marks);
+            return MarkedCells(slot);
+        };
+        const auto save = [&] {
             Marks[slot].flag(7, 3, 3) = true;
             dialogs.expect("Backup");
-            EXPECT_TRUE(SaveMarks(slot));
-            EXPECT_EQ(fresh.backups(), row.file);
-        }
+            return SaveMarks(slot);
+        };
+        expectKept(slot == ThisYear ? File : NextFile, files, read, save);
     }
 }
 
 TEST_F(MarksTest, SurviveBeingCutAtEveryByte) {
-    const UnsyncedDisk quick;
-    for (std::size_t length = 0; length < Full.size(); ++length) {
-        SCOPED_TRACE(length);
-        const TemporaryFolder fresh;
+    ForEachCut(Full, [&](std::string cut, const TemporaryFolder& fresh) {
         begin();
-        std::string cut = Full.substr(0, length);
         fresh.put(File, cut);
-        const std::size_t inLine = length - (cut.rfind('\n') == std::string::npos ? 0 : cut.rfind('\n') + 1);
-        const bool faulty = inLine > 0 && inLine < 10;
+        const std::string line = cut.substr(cut.rfind('\n') + 1);
+        const bool faulty = !line.empty() && line.size() < 10;
         if (faulty) dialogs.expect("ReadAndDisplayThisYearsMarks");
         ReadAndDisplayThisYearsMarks();
         MarkFlag(11, 6, 5) = true;
-        const bool copied = faulty || (inLine > 10 && cut.find('-', length - inLine) == length - 1);
+        const bool copied = faulty || (line.size() > 10 && line.find('-') == line.size() - 1);
         if (copied) dialogs.expect("Backup");
         EXPECT_TRUE(SaveThisYearsMarks());
         if (cut.ends_with('\r')) cut.pop_back();
         EXPECT_TRUE(copied ? fresh.backups() == cut : fresh.get(File).starts_with(cut)) << fresh.get(File);
         dialogs.verify();
-    }
+    });
 }
 
 TEST_F(MarksTest, FileThatCannotBeReadIsNotOverwritten) {

@@ -1,64 +1,36 @@
 // The printed month, read from what is drawn on the page.
 #include "marks/modPrint.h"
 
-#include <gtest/gtest.h>
-
-#include <optional>
-
-#include "base/errors.h"
 #include "calendar/modPaint.h"
-#include "forms/printer.h"
-#include "forms/recorder.h"
 #include "tests/marks/month.h"
-#include "tests/support/dialogs.h"
+#include "tests/support/planner.h"
+#include "tests/support/printer.h"
 
 namespace {
-class PrintTest : public testing::Test {
-  protected:
+struct PrintTest : PlannerTest {
     PrintTest() {
         folder.put("Marker Colors.dat", CategoryLines);
-        PrinterCalls calls = SetPrinter({});
-        calls.begin = [this](const std::string& title) {
-            printedTitle = title;
-            return std::make_unique<Sheet>(unitsPerPoint, page);
-        };
-        calls.check = [] {};
-        SetPrinter(calls);
+        printer.unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
         CheckPrinter();
     }
-    ~PrintTest() override { SetPrinter({}); }
-
-    /// The document's canvas goes when it is printed; what it recorded stays with the test.
-    struct Sheet : Recorder {
-        Sheet(double units, std::optional<Recorder>& kept) : Recorder(units), kept_(kept) {}
-        void end() override {
-            Recorder::end();
-            kept_ = *this;
-        }
-        std::optional<Recorder>& kept_;
-    };
-
     void print(void (*command)() = mnuFilePrintCalendar_Click) {
         page.reset();
         command();
     }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
-    std::optional<Recorder> page;  // the last page printed
-    std::string printedTitle;
-    double unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
+    RecordedPrinter printer;
+    std::optional<Recorder>& page = printer.page;
 };
 
 TEST_F(PrintTest, DrawsTheMonth) {
     folder.put("Holidays/2026Holidays.dat", "08/01/26:Swiss Day\r\n08/02/26:Sunday's\r\n");
     folder.put("2026Marks.dat", "07:06:00:8388608-Budget\r\n");
     folder.put("2026/Aug_Icons.dat", "00:03 Index:41\r\n01:00 Index:07\r\n");
-    boxes.expect("An error occurred in ReadIconTags.");  // none is installed here: the pictures are drawn by number
+    dialogs.expect("An error occurred in ReadIconTags.");  // none is installed here: the pictures are drawn by number
     ReadMonth(2026, 8);
     Icons.badPictures.erase(41);
     print();
-    EXPECT_EQ(printedTitle, "August, 2026");
+    EXPECT_EQ(printer.title, "August, 2026");
     EXPECT_EQ(page->scaleWidth(), 8);
     EXPECT_EQ(page->scaleHeight(), 11);
     for (const char* call : {
@@ -88,24 +60,20 @@ TEST_F(PrintTest, DrawsTheMonth) {
 }
 
 TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
-    const struct {
-        int entries;
-        int printed;
-    } lists[] = {{18, 18}, {19, 19}, {36, 36}, {37, 36}};
-    for (const auto& row : lists) {
-        PutEntries(folder, row.entries);
+    for (const auto& [entries, printed] : {std::pair{18, 18}, {19, 19}, {36, 36}, {37, 36}}) {
+        PutEntries(folder, entries);
         ReadMonth(2026, 7);
-        if (row.entries > row.printed) boxes.expect("first 36 will be printed.");
+        if (entries > printed) dialogs.expect("first 36 will be printed.");
         print();
-        EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(row.printed)) << row.entries;
-        EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << row.entries;  // the 18th
-        EXPECT_EQ(page->containing("text 4 7.5 '").size(), row.entries > 18 ? 1u : 0u) << row.entries;
+        EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(printed)) << entries;
+        EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << entries;  // the 18th
+        EXPECT_EQ(page->containing("text 4 7.5 '").size(), entries > 18 ? 1u : 0u) << entries;
     }
 }
 
 TEST_F(PrintTest, KeepsTheListInsideItsColumns) {
     folder.put("2026Marks.dat", "06:06:00:8388608-" + std::string(200, 'x') + "\r\n");
-    unitsPerPoint = 0.02;  // wide paper: less height for a line
+    printer.unitsPerPoint = 0.02;  // wide paper: less height for a line
     ReadMonth(2026, 7);
     print();
     const auto texts = page->containing("Meeting: xx");
@@ -122,9 +90,8 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
     TemplateMode = true;
     ResetMonthIcons(TemplateDate = MakeDate(2026, 1, 1));
     print();
-    EXPECT_EQ(printedTitle, "Monthly Template");
-    EXPECT_TRUE(page->containing("'Sun'").empty());
-    EXPECT_TRUE(page->containing("Arial 9").empty());
+    EXPECT_EQ(printer.title, "Monthly Template");
+    EXPECT_TRUE(page->containing("'Sun'").empty() && page->containing("Arial 9").empty());
     for (const char* number : {"'28' Arial 18 bold 000000", "'29' Arial 18 bold C0C0C0", "'31' Arial 18 bold 0000FF"})
         EXPECT_EQ(page->containing(number).size(), 1u) << number;
 }
@@ -132,11 +99,11 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
 TEST_F(PrintTest, TellsOfPrintersThatAreMissingOrFail) {
     ReadMonth(2026, 7);
     PrinterAvailable = false;
-    boxes.expect("Printer could not be found");
+    dialogs.expect("Printer could not be found");
     print();
     PrinterAvailable = true;
     SetPrinter({});
-    boxes.expect("An error occurred in Print1MonthCalendar.");
+    dialogs.expect("An error occurred in Print1MonthCalendar.");
     print();
     EXPECT_FALSE(page);
 }

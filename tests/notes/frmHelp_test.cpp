@@ -1,10 +1,6 @@
 // The help window and the side panel's help.
 #include "notes/frmHelp.h"
 
-#include <QApplication>
-#include <QTest>
-
-#include "forms/qt/text.h"
 #include "marks/frmColors.h"
 #include "notes/frmHelpPanel.h"
 #include "notes/frmToDo.h"
@@ -12,21 +8,17 @@
 #include "reminders/frmBDay.h"
 #include "reminders/frmHolidays.h"
 #include "shell/frmMain.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 #include "tools/frmAlarm.h"
 
 namespace {
-struct HelpWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct HelpWindow : WindowTest {
     HelpPanel panel;
 
     void read(const std::string& file) const {
         folder.put("Help_Topics.txt", file);
         ReadHelpTopics();
     }
-    void TearDown() override { UnloadAllWindows(); }
 };
 }  // namespace
 

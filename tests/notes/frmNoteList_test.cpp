@@ -1,31 +1,22 @@
 // The note list and the search window.
 #include "notes/frmNoteList.h"
 
-#include <gtest/gtest.h>
-
-#include <QTest>
-
-#include "calendar/modCalendar.h"
 #include "notes/frmNotes.h"
 #include "notes/frmSearch.h"
 #include "notes/modNotes.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
 const std::string Year = "01/08/26:000401:Vet\r\n03/04/26:020300:lunch\r\n03/09/26:020101:LUNCH with Sam\r\n";
 
-struct NoteWindows : testing::Test {
+struct NoteWindows : WindowTest {
     NoteWindows() {
         InstallNoteEditor();
         Calendar.yearOnDisplay = 2026;
         folder.put("2026/Notes.dat", Year);
         folder.put("2041/Notes.dat", "03/01/41:020500:far away\r\n");
     }
-    ~NoteWindows() override {
-        UnloadAllWindows();
-        NoteEditor = {};
-    }
+    ~NoteWindows() override { NoteEditor = {}; }
     static QStringList shown(const QListWidget* list) {
         QStringList rows;
         for (int row = 0; row < list->count(); ++row) rows << list->item(row)->text();
@@ -33,9 +24,6 @@ struct NoteWindows : testing::Test {
     }
     static QStringList rows(const char* text) { return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts); }
     std::string file() const { return folder.get("2026/Notes.dat"); }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(NoteWindows, ListAYearAMonthAndAYearTyped) {
@@ -52,13 +40,12 @@ TEST_F(NoteWindows, ListAYearAMonthAndAYearTyped) {
     EXPECT_EQ(OpenedWindow<frmNotes>()->txtNotes->toPlainText(), QStringLiteral("far away"));
     window->cmbYear->setEditText(QStringLiteral("9"));
     window->cmdLoad->click();
-    EXPECT_EQ(window->cmbYear->currentText(), QStringLiteral("2009"));
-    EXPECT_EQ(window->lst->count(), 0);
+    EXPECT_TRUE(window->cmbYear->currentText() == QStringLiteral("2009") && window->lst->count() == 0);
     window->cmbYear->setEditText(QStringLiteral("no year"));
-    boxes.expect("PopulateListBoxes");
+    dialogs.expect("PopulateListBoxes");
     window->cmdLoad->click();
     for (auto* button : {window->cmdOpen, window->cmdDelete}) {
-        boxes.expect("Nothing has been selected.");
+        dialogs.expect("Nothing has been selected.");
         button->click();
     }
 }
@@ -68,23 +55,23 @@ TEST_F(NoteWindows, DeleteWhatIsListedAndNothingElse) {
     window->cmbMonth->setCurrentText(QStringLiteral("March"));
     window->cmdLoad->click();
     window->lst->setCurrentRow(1);
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     window->cmdDelete->click();
     EXPECT_EQ(file(), Year.substr(0, Year.find("03/09")));
     // A note that is open keeps its unsaved text through the prompt, and lands under its own date.
     SelectDate(MakeDate(2026, 1, 8));
     DisplayThisNote();
     QTest::keyClicks(OpenedWindow<frmNotes>()->txtNotes, QStringLiteral("! "));
-    boxes.expect("You're about to delete all the files in the list. Continue?", Answer::No);
+    dialogs.expect("You're about to delete all the files in the list. Continue?", Answer::No);
     window->cmdDeleteAll->click();
-    boxes.expect("You're about to delete", Answer::Yes);
-    boxes.expect("Text has been changed", Answer::Cancel);
+    dialogs.expect("You're about to delete", Answer::Yes);
+    dialogs.expect("Text has been changed", Answer::Cancel);
     window->cmdDeleteAll->click();
     EXPECT_EQ(file(), Year.substr(0, Year.find("03/09")));
-    boxes.expect("You're about to delete", Answer::Yes);
-    boxes.expect("Text has been changed", Answer::Yes);
-    boxes.expect("Notes Saved");
-    boxes.expect("Notes Saved");
+    dialogs.expect("You're about to delete", Answer::Yes);
+    dialogs.expect("Text has been changed", Answer::Yes);
+    dialogs.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     window->cmdDeleteAll->click();
     EXPECT_EQ(file(), "01/08/26:000401:! Vet\r\n");
 }
@@ -93,14 +80,14 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     auto* window = ShowWindow<frmSearch>();
     const auto search = [&](const char* phrase, const char* report) {
         window->cmbPhrase->setEditText(QString::fromLatin1(phrase));
-        boxes.expect(report);
+        dialogs.expect(report);
         QTest::keyClick(window->cmbPhrase, Qt::Key_Return);
     };
     search("", "No phrase has been entered.");
     search("plumber", "Search Phrase was not found.");
     folder.put("2026/Notes.dat", Year + "04/01/26:030300:why?\r\n");
     window->cmbPhrase->setEditText(QStringLiteral("\u4E2D"));  // no file holds it, nor does "?" stand for it
-    boxes.expect("Search Phrase was not found.");
+    dialogs.expect("Search Phrase was not found.");
     window->cmdSearch->click();
     search("vet", "Search Phrase appears on 1 date");
     search("Sam", "Search Phrase appears on 1 date");

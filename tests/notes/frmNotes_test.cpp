@@ -1,29 +1,14 @@
 // The notes editor: typing with completion, saving, closing, searching, printing.
 #include "notes/frmNotes.h"
 
-#include <gtest/gtest.h>
-
-#include <QApplication>
-#include <QClipboard>
-#include <QDropEvent>
-#include <QInputMethodEvent>
-#include <QMimeData>
-#include <QTest>
-
-#include "base/text.h"
-#include "calendar/modViews.h"
-#include "forms/qt/text.h"
-#include "notes/frmFUT.h"
-#include "notes/modComplete.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
 #include "tests/support/window_pdf.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct EditorTest : testing::Test {
+struct EditorTest : WindowTest {
     EditorTest() {
         InstallNoteEditor();
         Calendar.yearOnDisplay = 2026;
@@ -31,10 +16,7 @@ struct EditorTest : testing::Test {
         Preferences.termsFile = CurrentTermsFile = "Work.fut";
         AutoStartPosition = 0;
     }
-    ~EditorTest() override {
-        UnloadAllWindows();
-        NoteEditor = {};
-    }
+    ~EditorTest() override { NoteEditor = {}; }
 
     frmNotes* open(int month = 10, int day = 5) {
         SelectDate(MakeDate(2026, month, day));
@@ -50,29 +32,19 @@ struct EditorTest : testing::Test {
     std::string shown() const {
         const QTextCursor cursor = box->textCursor();
         QString text = box->toPlainText();
-        if (cursor.hasSelection())
-            text.insert(cursor.selectionEnd(), u']').insert(cursor.selectionStart(), u'[');
-        else
-            text.insert(cursor.position(), u'|');
-        return text.toStdString();
+        if (!cursor.hasSelection()) return text.insert(cursor.position(), u'|').toStdString();
+        return text.insert(cursor.selectionEnd(), u']').insert(cursor.selectionStart(), u'[').toStdString();
     }
     std::string file() const { return folder.get("2026/Notes.dat"); }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
     frmNotes* window = nullptr;
     NoteTextBox* box = nullptr;
 };
 
 TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
-    struct Row {
-        const char* typed;
-        Qt::Key key;
-        Qt::KeyboardModifiers held;
-        const char* expected;
-    };
+    using Row = std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers, const char*>;
     open();
-    for (const Row& row :
+    for (const auto& [typed, key, held, expected] :
          {Row{"ne", Qt::Key_unknown, Qt::NoModifier, "ne[w york]"},
           Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New York|"},
           Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW YORK|"},
@@ -85,11 +57,10 @@ TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
           Row{"budge", Qt::Key_T, Qt::NoModifier, "budget|"},
           Row{"new y", Qt::Key_Right, Qt::NoModifier, "new york|"}}) {
         box->showNote("");
-        type(row.typed);
-        if (row.key != Qt::Key_unknown) press(row.key, row.held);
-        EXPECT_EQ(shown(), row.expected) << row.typed;
+        type(typed);
+        if (key != Qt::Key_unknown) press(key, held);
+        EXPECT_EQ(shown(), expected) << typed;
     }
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
@@ -121,7 +92,6 @@ TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
     EXPECT_EQ(shown(), "bud b|");
     while (box->document()->isUndoAvailable()) press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(shown(), "|");
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
@@ -132,7 +102,7 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     box->showNote("");
     box->append(all);
     EXPECT_TRUE(NotesChanged);
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_EQ(file(), "10/05/26:090101:" + EncodedLineBreaks(all) + "\r\n");
     EXPECT_FALSE(NotesChanged);
@@ -141,45 +111,40 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(NotesChanged);  // the text is again what was saved
     type("12");
-    boxes.expect("The Notes have been changed", Answer::Yes);
-    boxes.expect("Notes Saved");
+    dialogs.expect("The Notes have been changed", Answer::Yes);
+    dialogs.expect("Notes Saved");
     AskAboutOpenNote(false);
     type("\b");
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(NotesChanged);  // and again, after another way to save
     box->insertPlainText(QStringLiteral("\u4E2D"));
-    boxes.expect("\u4E2D");
+    dialogs.expect("\u4E2D");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_TRUE(NotesChanged);
     EXPECT_TRUE(box->toPlainText().contains(QChar(0x4E2D)));
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, ClosesThroughItsPrompt) {
     const auto change = [&](Answer answer) {
         open();
         type("x");
-        boxes.expect("Text has been changed. Do you want to save the changes?", answer);
+        dialogs.expect("Text has been changed. Do you want to save the changes?", answer);
     };
     change(Answer::Cancel);
     CalendarView = 0;
     press(Qt::Key_Escape);
-    EXPECT_EQ(OpenedWindow<frmNotes>(), window);
-    EXPECT_EQ(CalendarView, 0);
+    EXPECT_TRUE(OpenedWindow<frmNotes>() == window && CalendarView == 0);
     SelectDate(MakeDate(2026, 3, 1));
-    boxes.expect("Text has been changed", Answer::Cancel);
+    dialogs.expect("Text has been changed", Answer::Cancel);
     DisplayThisNote();
     EXPECT_EQ(window->windowTitle(), QStringLiteral("Notes for October 05, 2026"));
-    boxes.expect("Text has been changed", Answer::Yes);
-    boxes.expect("Notes Saved");
+    dialogs.expect("Text has been changed", Answer::Yes);
+    dialogs.expect("Notes Saved");
     press(Qt::Key_Escape);
-    EXPECT_EQ(OpenedWindow<frmNotes>(), nullptr);
-    EXPECT_FALSE(NotesWindowOpen);
+    EXPECT_FALSE(OpenedWindow<frmNotes>() || NotesWindowOpen);
     EXPECT_EQ(CalendarView, 12);
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
-    open();
-    type("y");
-    boxes.expect("Text has been changed", Answer::No);
+    change(Answer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
 }
@@ -194,7 +159,7 @@ TEST_F(EditorTest, FindsThePhraseAgainAndAgain) {
     again->trigger();
     again->trigger();
     EXPECT_EQ(shown(), "Lunch\nlunch [LUNCH]");
-    boxes.expect("No more occurences.");
+    dialogs.expect("No more occurences.");
     again->trigger();
     EXPECT_EQ(shown(), "|Lunch\nlunch LUNCH");
     SearchActive = false;
@@ -208,20 +173,13 @@ TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {
     window->cmdFormat->click();
     EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n")) << shown();
     EXPECT_EQ(box->document()->blockCount(), 2 + 72);
-    QMimeData carried;
-    carried.setData(QLatin1String(DraggedTermType), "vet");
     const auto drop = [&] {
         DraggedTerm = "vet";
-        QDragEnterEvent enters(QPoint(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box->viewport(), &enters);
-        EXPECT_TRUE(enters.isAccepted());
-        QDropEvent event(QPointF(5, 5), Qt::CopyAction, &carried, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(box->viewport(), &event);
+        EXPECT_TRUE(DragAndDrop(box->viewport(), QPoint(5, 5), DraggedTermType, "vet"));
         return shown();
     };
     EXPECT_TRUE(drop().ends_with(" - \n\nvet|"));
     EXPECT_TRUE(drop().ends_with("\nvet vet|"));
-    NotesChanged = false;
 }
 
 TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
@@ -231,7 +189,7 @@ TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
     for (int i = 0; i < 70; ++i) text += QStringLiteral("line %1\n").arg(i);
     text += QStringLiteral("word ").repeated(60);
     box->insertPlainText(text);
-    boxes.expect("Could not find Printer.");
+    dialogs.expect("Could not find Printer.");
     window->item(QStringLiteral("mnuFilePrint"))->trigger();
     const PdfPrinter printer(QString::fromStdString(folder.path().string()));
     window->item(QStringLiteral("mnuFilePrint"))->trigger();
@@ -244,6 +202,5 @@ TEST_F(EditorTest, PrintsLinesAsWrappedOnAsManyPagesAsTheyTake) {
     for (const QString& line : box->wrappedLines()) wrapped << line.simplified();
     EXPECT_GT(wrapped.size(), 73);
     EXPECT_EQ(printed.mid(1), wrapped);
-    NotesChanged = false;
 }
 }  // namespace

@@ -1,18 +1,11 @@
 // The window of the preferences of terms.
 #include "notes/frmPref.h"
 
-#include <gtest/gtest.h>
-
-#include <QTest>
-
 #include "shell/modPreferences.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-struct PrefWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct PrefWindow : WindowTest {
     frmPref* window = nullptr;
 
     PrefWindow() {
@@ -21,7 +14,6 @@ struct PrefWindow : testing::Test {
         SaveTermsPreferences(true, 2, true, false);
         window = ShowWindow<frmPref>();
     }
-    ~PrefWindow() override { UnloadAllWindows(); }
 };
 }  // namespace
 

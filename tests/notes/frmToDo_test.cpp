@@ -1,19 +1,13 @@
 // The to-do window and the main window's panel.
 #include "notes/frmToDo.h"
 
-#include <QApplication>
-#include <QTest>
-
 #include "notes/frmToDoPanel.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
 const std::string Rows = "\xF3one\r\n\xF5two\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n\xF5\r\n";
 
-struct ToDoWindow : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+struct ToDoWindow : WindowTest {
     ToDoPanel panel;
     frmToDo* window = nullptr;
 
@@ -24,7 +18,6 @@ struct ToDoWindow : testing::Test {
         ASSERT_NE(window, nullptr);
         ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     }
-    void TearDown() override { UnloadAllWindows(); }
     void clickMenu(const char* name) const { window->item(QString::fromLatin1(name))->trigger(); }
     QColor colourOf(std::size_t row) const { return window->txt.at(row)->palette().color(QPalette::Base); }
 };

@@ -41,39 +41,29 @@ std::string Typed(const std::vector<std::string>& terms, std::string text, std::
 TEST(Completion, OffersTheFirstTermThatFitsInTheCaseThatIsTyped) {
     const TemporaryFolder folder;
     struct Row {
-        const char* name;
         const char* before;  // the caret stands at "|"
         const char* keys;
         int startPosition;
         const char* expected;
     };
-    for (const Row& row : {Row{"small", "|", "ne", 0, "ne[w jersey]"},
-                           Row{"proper", "|", "Ne", 0, "Ne[w Jersey]"},
-                           Row{"capital", "|", "NE", 0, "NE[W JERSEY]"},
-                           Row{"exactly the term's", "|", "iPh", 0, "iPh[one]"},
-                           Row{"mixed: the term as it is", "|", "nEw", 0, "New[ Jersey]"},
-                           Row{"accents", "|", "\xE4r", 0, "\xE4r[zte]"},
-                           Row{"one letter", "|", "b", 0, "b[udget]"},
-                           Row{"too few letters", "|", "bu", 2, "bu"},
-                           Row{"enough letters", "|", "bud", 2, "bud[get]"},
-                           Row{"in full", "|", "budget", 0, "budget"},
-                           Row{"nothing fits", "|", "bux", 0, "bux"},
-                           Row{"after Backspace", "|", "bux<d", 0, "bud[get]"},
-                           Row{"a second word", "a |", "bu", 0, "a bu[dget]"},
-                           Row{"a second line", "a\n|", "bu", 0, "a\nbu[dget]"},
-                           Row{"after a bracket no word begins", "(|", "bu", 0, "(bu"},
-                           Row{"at the end of a word that was there", "b|", "u", 0, "bu"},
-                           Row{"inside text", "|dget", "bu", 0, "budget"},
-                           Row{"before a blank", "| x", "bu", 0, "bu[dget] x"},
-                           Row{"before a line break", "|\nx", "bu", 0, "bu[dget]\nx"},
-                           Row{"a blank goes on in a term", "|", "new ", 0, "new [jersey]"},
-                           Row{"and so does the next word", "|", "new y", 0, "new y[ork]"},
-                           Row{"or a new word begins", "|", "new b", 0, "new b[udget]"},
-                           Row{"a line break parts words", "|", "new\ny", 0, "new\ny"}}) {
+    for (const Row& row :
+         {// in the case that is typed
+          Row{"|", "ne", 0, "ne[w jersey]"}, Row{"|", "Ne", 0, "Ne[w Jersey]"}, Row{"|", "NE", 0, "NE[W JERSEY]"},
+          Row{"|", "iPh", 0, "iPh[one]"}, Row{"|", "nEw", 0, "New[ Jersey]"}, Row{"|", "\xE4r", 0, "\xE4r[zte]"},
+          // from the start position on, while something fits
+          Row{"|", "b", 0, "b[udget]"}, Row{"|", "bu", 2, "bu"}, Row{"|", "bud", 2, "bud[get]"},
+          Row{"|", "budget", 0, "budget"}, Row{"|", "bux", 0, "bux"}, Row{"|", "bux<d", 0, "bud[get]"},
+          // where a word begins and none goes on
+          Row{"a |", "bu", 0, "a bu[dget]"}, Row{"a\n|", "bu", 0, "a\nbu[dget]"}, Row{"(|", "bu", 0, "(bu"},
+          Row{"b|", "u", 0, "bu"}, Row{"|dget", "bu", 0, "budget"}, Row{"| x", "bu", 0, "bu[dget] x"},
+          Row{"|\nx", "bu", 0, "bu[dget]\nx"},
+          // over a blank, not over a line break
+          Row{"|", "new ", 0, "new [jersey]"}, Row{"|", "new y", 0, "new y[ork]"}, Row{"|", "new b", 0, "new b[udget]"},
+          Row{"|", "new\ny", 0, "new\ny"}}) {
         std::string text = row.before;
         const auto caret = text.find('|');
         text.erase(caret, 1);
-        EXPECT_EQ(Typed(Terms, text, caret, row.keys, row.startPosition), row.expected) << row.name;
+        EXPECT_EQ(Typed(Terms, text, caret, row.keys, row.startPosition), row.expected) << row.before << row.keys;
     }
     EXPECT_EQ(Typed(Unsorted, "", 0, "ze", 0), "ze[bra two]");
     EXPECT_EQ(Typed(Unsorted, "", 0, "app", 0), "app[le]");

@@ -1,26 +1,16 @@
 // Lists of terms: their files, and that no term gets lost with them.
 #include "notes/modFUT.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "base/text.h"
 #include "shell/modPreferences.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-struct TermsTest : testing::Test {
+struct TermsTest : PlannerTest {
     void open(const std::string& file, const std::string& bytes) {
         folder.put(file, bytes);
         Preferences.termsFile = CurrentTermsFile = file;
         ReadFrequentlyUsedTerms();
     }
-
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(TermsTest, AreSavedInListOrderWithoutALastLineBreak) {
@@ -34,20 +24,20 @@ TEST_F(TermsTest, AreSavedInListOrderWithoutALastLineBreak) {
     ConvertTerms(TermCase::Upper);
     EXPECT_EQ(lstFUT.front(), "BANANA");
     EXPECT_EQ(folder.get("Work.fut"), "Banana\r\nkiwi\r\nmangos");
-    boxes.expect("No term has been added to save.");
+    dialogs.expect("No term has been added to save.");
     EXPECT_FALSE(AddTerms(" \r\n "));
 }
 
 TEST_F(TermsTest, EmptyListIsNotWritten) {
     open("Work.fut", "only");
-    boxes.expect("There are no Frequently Used Terms to save.");
+    dialogs.expect("There are no Frequently Used Terms to save.");
     RemoveTerms({"only"});
     EXPECT_EQ(folder.get("Work.fut"), "only");
-    boxes.expect("This will delete all items", Answer::No);
+    dialogs.expect("This will delete all items", Answer::No);
     ClearTerms();
     EXPECT_EQ(lstFUT.size(), 1u);
-    boxes.expect("This will delete all items", Answer::Yes);
-    boxes.expect("There are no Frequently Used Terms to save.");
+    dialogs.expect("This will delete all items", Answer::Yes);
+    dialogs.expect("There are no Frequently Used Terms to save.");
     ClearTerms();
     EXPECT_EQ(folder.get("Work.fut"), "only");
 }
@@ -56,29 +46,26 @@ TEST_F(TermsTest, NewListsAreMadeUnderNamesThatEverySystemTakes) {
     open("Work.fut", "old");
     for (const char* name :
          {"a/b", "a\\b", "a:b", "*", "?", "<a", "a>", "a|b", "CON", "nul", "Lpt1.x", "a\"b", "a\tb", "..", ".hidden"}) {
-        boxes.expectInput("Starting New Frequent Terms File", name);
-        boxes.expect("Action Cancelled.");
+        dialogs.expectInput("Starting New Frequent Terms File", name);
+        dialogs.expect("Action Cancelled.");
         EXPECT_FALSE(CreateNewFUTFile()) << name;
     }
-    for (const char* name : {"", "   "}) {
-        boxes.expectInput("Please enter a name", name);
-        EXPECT_FALSE(CreateNewFUTFile());
-    }
+    const auto create = [&](const char* name, std::optional<Answer> overwrite) {
+        dialogs.expectInput("Please enter a name", name);
+        if (overwrite) dialogs.expect("File already exists. Overwrite?", *overwrite);
+        return CreateNewFUTFile();
+    };
+    EXPECT_FALSE(create("", {}) || create("   ", {}));
     folder.put("Home.fut", "dentist");
-    boxes.expectInput("Please enter a name", "home");
-    boxes.expect("File already exists. Overwrite?", Answer::No);
-    EXPECT_FALSE(CreateNewFUTFile());
+    EXPECT_FALSE(create("home", Answer::No));
     EXPECT_EQ(CurrentTermsFile, "Work.fut");
-    boxes.expectInput("Please enter a name", "console");
-    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_TRUE(create("console", {}));
     EXPECT_EQ(folder.get("console.fut"), "");
     EXPECT_TRUE(AddTerms("first"));
     EXPECT_EQ(folder.get("console.fut"), "first");
-    boxes.expectInput("Please enter a name", "Home");
-    boxes.expect("File already exists. Overwrite?", Answer::Yes);
-    EXPECT_TRUE(CreateNewFUTFile());
+    EXPECT_TRUE(create("Home", Answer::Yes));
     EXPECT_EQ(folder.get("Home.fut"), "dentist");  // until the first term is saved
-    boxes.expect("Backup");
+    dialogs.expect("Backup");
     EXPECT_TRUE(AddTerms("plumber"));
     EXPECT_EQ(folder.get("Home.fut"), "plumber");
     EXPECT_EQ(folder.backups(), "dentist");
@@ -89,18 +76,15 @@ TEST_F(TermsTest, ListsAreChosenCycledAndDeleted) {
     folder.put("C.FUT", "of c");
     folder.put("c.txt", "no list");
     open("a.fut", "of a");
-    const auto next = [] {
+    for (const char* next : {"b.fut", "C.FUT", "a.fut"}) {
         NextTermsFile();
-        return CurrentTermsFile;
-    };
-    EXPECT_EQ(next(), "b.fut");
-    EXPECT_EQ(next(), "C.FUT");
-    EXPECT_EQ(next(), "a.fut");
-    boxes.expect("You cannot delete the Default");
+        EXPECT_EQ(CurrentTermsFile, next);
+    }
+    dialogs.expect("You cannot delete the Default");
     DeleteTermsFile();
     ShowTermsFiles();
     EXPECT_EQ(lstMoreFUT, (std::vector<std::string>{"a.fut", "b.fut", "C.FUT"}));
-    boxes.expect("No list selected.");
+    dialogs.expect("No list selected.");
     ChooseTermsFile(-1);
     ChooseTermsFile(1);
     EXPECT_EQ(lstFUT, std::vector<std::string>{"of b"});
@@ -131,22 +115,19 @@ TEST_F(TermsTest, GoBackToTheirOwnFileWhateverThePreferencesNameMeanwhile) {
     EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber");
     for (const char* name : {"../outside.fut", "NUL.fut"}) {
         CurrentTermsFile = name;
-        boxes.expect("Action Cancelled.");
+        dialogs.expect("Action Cancelled.");
         ReadFrequentlyUsedTerms();
         EXPECT_EQ(TermCount(), 0);
     }
     CurrentTermsFile.clear();
-    boxes.expect("File not found.");
+    dialogs.expect("File not found.");
     ReadFrequentlyUsedTerms();
 }
 
 TEST_F(TermsTest, AreJoinedToANoteWithTheBlanksTheyNeed) {
-    EXPECT_EQ(InsertedTerm('\0', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm(' ', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm('\n', "vet"), "vet ");
-    EXPECT_EQ(InsertedTerm('x', "vet"), " vet ");
-    EXPECT_EQ(DroppedTerm('\0', "vet"), "vet");
-    EXPECT_EQ(DroppedTerm('\n', "vet"), "vet");
-    EXPECT_EQ(DroppedTerm(' ', "vet"), " vet");
+    for (const char before : {'\0', ' ', '\n', 'x'}) {
+        EXPECT_EQ(InsertedTerm(before, "vet"), before == 'x' ? " vet " : "vet ");
+        EXPECT_EQ(DroppedTerm(before, "vet"), before == '\0' || before == '\n' ? "vet" : " vet");
+    }
 }
 }  // namespace

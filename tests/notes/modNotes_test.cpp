@@ -1,19 +1,12 @@
 // The notes store: its tables, its files, and what must not get lost in them.
 #include "notes/modNotes.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "base/diskio.h"
 #include "marks/modSaveChanges.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 /// A year on display, and an editor that holds a text without a window.
-struct NotesTest : testing::Test {
+struct NotesTest : PlannerTest {
     NotesTest() {
         Calendar.yearOnDisplay = 2026;
         NoteEditor = {[this](const std::string& caption, const std::string& text) {
@@ -38,17 +31,13 @@ struct NotesTest : testing::Test {
         DisplayThisNote();
         typed = text;
         NotesChanged = true;
-        boxes.expect("Notes Saved");
+        dialogs.expect("Notes Saved");
         EXPECT_TRUE(SaveOpenNote());
     }
     std::string file(int year = 2026) { return folder.get(std::to_string(year) + "/Notes.dat"); }
 
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
-    std::string typed;
-    std::string shownCaption;
-    bool stays = false;
-    bool refuses = false;
+    std::string typed, shownCaption;
+    bool stays = false, refuses = false;
 };
 
 TEST_F(NotesTest, AreWrittenInDateOrderEachInOneLine) {
@@ -62,9 +51,7 @@ TEST_F(NotesTest, AreWrittenInDateOrderEachInOneLine) {
     DisplayThisNote();
     EXPECT_EQ(typed, "three\r\nlines\r\nof it");
     EXPECT_EQ(shownCaption, "Notes for October 05, 2026");
-    EXPECT_TRUE(NoteFlags(9, 1, 1));
-    EXPECT_TRUE(HasNote(MakeDate(2026, 2, 7)));
-    EXPECT_FALSE(HasNote(MakeDate(2026, 2, 8)));
+    EXPECT_TRUE(NoteFlags(9, 1, 1) && HasNote(MakeDate(2026, 2, 7)) && !HasNote(MakeDate(2026, 2, 8)));
     EXPECT_EQ(CurrentNote, 1);
     write(10, 5, "  ");
     EXPECT_EQ(lstNotes, (std::vector<std::string>{"02/07/26", "12/31/26"}));
@@ -77,21 +64,10 @@ TEST_F(NotesTest, OfNextYearKeepToTheirOwnFile) {
     write(12, 30, "this year");
     EXPECT_EQ(file(2027), "01/03/27:000001:next year\r\n");
     EXPECT_EQ(file(2026), "12/30/26:110304:this year\r\n");
-    EXPECT_TRUE(NextNoteFlags(0, 0, 1));
-    EXPECT_EQ(lstNotes2.size(), 1u);
+    EXPECT_TRUE(NextNoteFlags(0, 0, 1) && lstNotes2.size() == 1);
     write(5, 1, "a year in neither slot", 2031);
     EXPECT_EQ(file(2031), "05/01/31:040400:a year in neither slot\r\n");
     EXPECT_EQ(YearOfSlot(ThisYear), 2031);
-}
-
-TEST_F(NotesTest, AreStoredUnderTheDateTheEditorShows) {
-    SelectDate(MakeDate(2026, 3, 4));
-    DisplayThisNote();
-    typed = "of March";
-    SelectDate(MakeDate(2026, 8, 9));  // a click on another day while the editor is open
-    boxes.expect("Notes Saved");
-    EXPECT_TRUE(SaveOpenNote());
-    EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
 }
 
 TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
@@ -107,27 +83,27 @@ TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
 }
 
 TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
-    struct Row {
-        const char* name;
-        std::string line;
-        const char* report;
+    const auto file = [](const std::string& line) {
+        return "03/04/26:020300:before\r\n" + line + "\r\n07/04/26:060600:after\r\n";
     };
-    for (const Row& row :
-         {Row{"short", "03/05/26:0203", "Number: 5"}, Row{"empty", "", "Number: 5"},
-          Row{"no digits", "03/05/26:02ab00:x", "Number: 13"}, Row{"no such cell", "03/05/26:129900:x", "Number: 9"}}) {
-        SCOPED_TRACE(row.name);
-        const std::string before = "03/04/26:020300:before\r\n" + row.line + "\r\n07/04/26:060600:after\r\n";
-        folder.put("2026/Notes.dat", before);
-        boxes.expect(row.report);
+    const auto read = [&] {
+        Calendar.yearOnDisplay = 2026;
         ReadThisYearsNotes();
-        EXPECT_NE(boxes.shown().back().text.find("(line 2 of the file \"2026\\Notes.dat\")"), std::string::npos);
-        EXPECT_EQ(NoteCount(), 1);
+        EXPECT_NE(dialogs.shown().back().text.find("(line 2 of the file \"2026\\Notes.dat\")"), std::string::npos);
+        return NoteCount();
+    };
+    const auto save = [&] {
         SelectDate(MakeDate(2026, 3, 4));
         DisplayThisNote();
-        boxes.expect("Backup");
-        EXPECT_TRUE(SaveOpenNote());
-        EXPECT_NE(folder.backups().find(before), std::string::npos);
-    }
+        dialogs.expect("Backup");
+        return SaveOpenNote();
+    };
+    expectKept("2026/Notes.dat",
+               {{file("03/05/26:0203"), "Number: 5", 1},
+                {file(""), "Number: 5", 1},
+                {file("03/05/26:02ab00:x"), "Number: 13", 1},
+                {file("03/05/26:129900:x"), "Number: 9", 1}},
+               read, save);
 }
 
 TEST_F(NotesTest, MarkNoDayForKeysThatAreNoDateOfTheYear) {
@@ -148,21 +124,21 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     DisplayThisNote();
     NotesChanged = true;
     typed = "\xD2tto";
-    boxes.expect("turn", Answer::No);
+    dialogs.expect("turn", Answer::No);
     EXPECT_FALSE(SaveOpenNote());
     refuses = true;
     EXPECT_FALSE(SaveOpenNote());
     refuses = false;
     typed = "the disk is full";
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    boxes.expect("SaveThisYearsNotes");
+    dialogs.expect("SaveThisYearsNotes");
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
     SetDisk({});
     typed = "\xD2tto";
-    boxes.expect("turn", Answer::Yes);
-    boxes.expect("Notes Saved");
+    dialogs.expect("turn", Answer::Yes);
+    dialogs.expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
     EXPECT_FALSE(NotesChanged);
 }
@@ -172,23 +148,27 @@ TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
                "12/01/26:110200:c\r\n03/04/26:020300:a\r\n05/01/26:040500:b\r\n03/04/26:020300:a2\r\n");
     ReadThisYearsNotes();
     typed = "open in the editor";
-    boxes.expect("Notes Saved");
+    dialogs.expect("Notes Saved");
     DeleteNotes(ThisYear, {"03/04/26", "12/01/26"});
     EXPECT_EQ(file(), "05/01/26:040500:b\r\n");
     EXPECT_EQ(lstNotes, std::vector<std::string>{"05/01/26"});
     EXPECT_FALSE(NoteDeletePending);
 }
 
-TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayClose) {
-    write(3, 4, "a");
+TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayCloseAndAreStoredUnderTheDateItShows) {
+    SelectDate(MakeDate(2026, 3, 4));
+    DisplayThisNote();
+    typed = "of March";
     stays = true;
-    SelectDate(MakeDate(2026, 5, 1));
+    SelectDate(MakeDate(2026, 5, 1));  // another day while the editor is open
     DisplayThisNote();
     EXPECT_EQ(shownCaption, "Notes for March 04, 2026");
+    dialogs.expect("Notes Saved");
+    EXPECT_TRUE(SaveOpenNote());
+    EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
     stays = false;
     DisplayThisNote();
-    EXPECT_EQ(shownCaption, "Notes for May 01, 2026");
-    EXPECT_EQ(typed, "");
+    EXPECT_EQ(shownCaption + typed, "Notes for May 01, 2026");
     EXPECT_EQ(CurrentNote, -1);
 }
 
@@ -198,14 +178,14 @@ TEST_F(NotesTest, AreAskedAboutBeforeTheViewChanges) {
     const auto changed = [&](Answer answer) {
         NotesChanged = true;
         SaveCancelled = false;
-        boxes.expect("The Notes have been changed", answer);
+        dialogs.expect("The Notes have been changed", answer);
     };
     changed(Answer::Cancel);
     AskAboutOpenNote(false);
     EXPECT_TRUE(SaveCancelled && NotesChanged && NotesWindowOpen);
     changed(Answer::Yes);
     typed = "\xD5";
-    boxes.expect("turn", Answer::No);
+    dialogs.expect("turn", Answer::No);
     AskAboutOpenNote(true);
     EXPECT_TRUE(SaveCancelled);
     changed(Answer::No);

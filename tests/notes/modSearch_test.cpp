@@ -1,16 +1,8 @@
-// Searching the notes of a year, and the day's time line.
+// Searching the notes of a year.
 #include "notes/modSearch.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
-
-#include "base/text.h"
 #include "notes/modNotes.h"
-#include "notes/modTimeLine.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 TEST(Phrase, IsFoundInEitherCaseAndNeverAcrossALineBreak) {
@@ -37,7 +29,7 @@ TEST(Phrase, IsFoundInEitherCaseAndNeverAcrossALineBreak) {
                 << row.phrase << " in " << row.note << " at " << shift;
 }
 
-struct SearchTest : testing::Test {
+struct SearchTest : PlannerTest {
     SearchTest() {
         Calendar.yearOnDisplay = 2026;
         folder.put(
@@ -45,8 +37,6 @@ struct SearchTest : testing::Test {
             "01/08/26:000401:Vet\r\n03/04/26:020300:lunch\r\n03/04/26:020300:and LUNCH\r\n03/09/26:020101:vet\r\n");
         folder.put("2035/Notes.dat", "03/01/35:020400:far away\r\n");
     }
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
 };
 
 TEST_F(SearchTest, ListsDatesOfAYearOrAMonth) {
@@ -58,9 +48,6 @@ TEST_F(SearchTest, ListsDatesOfAYearOrAMonth) {
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 0, "vet"), (Dates{"01/08/26", "03/09/26"}));
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 3, "vet"), Dates{"03/09/26"});
     EXPECT_EQ(NoteDatesWithPhrase(*slot, 0, "lunch"), Dates{"03/04/26"});
-    EXPECT_EQ(SearchReport(0), "Search Phrase was not found.");
-    EXPECT_EQ(SearchReport(1), "Search Phrase appears on 1 date");
-    EXPECT_EQ(SearchReport(2), "Search Phrase appears on 2 dates.");
     EXPECT_EQ(NoteDatesInMonth(ReadNotesOfYear(2035).value(), 3), Dates{"03/01/35"});
     EXPECT_EQ(ShortDate(SelectedDate), "1/1/2035");
 }
@@ -72,34 +59,8 @@ TEST_F(SearchTest, OpensAListedNoteOfItsOwnYear) {
     OpenListedNote(2026, "03/09/26");  // listed before the other year came on display
     EXPECT_EQ(shown, "vet");
     EXPECT_EQ(ShortDate(SelectedDate), "3/9/2026");
-    boxes.expect("Couldn't find note to open.");
+    dialogs.expect("Couldn't find note to open.");
     EXPECT_FALSE(OpenListedNote(2026, "03/10/26"));
     NoteEditor = {};
-}
-
-TEST_F(SearchTest, DeletesListedNotesOnceTheEditorIsClosed) {
-    const std::string before = folder.get("2026/Notes.dat");
-    NotesWindowOpen = true;
-    NoteEditor.close = [] { return false; };
-    DeleteListedNotes(2026, {"03/04/26"});
-    EXPECT_EQ(folder.get("2026/Notes.dat"), before);
-    NotesWindowOpen = false;
-    boxes.expect("Notes Saved");
-    DeleteListedNotes(2026, {"03/04/26", "03/09/26"});
-    EXPECT_EQ(folder.get("2026/Notes.dat"), "01/08/26:000401:Vet\r\n");
-    NoteEditor = {};
-}
-
-TEST_F(SearchTest, RemembersEachPhraseOnce) {
-    for (const char* phrase : {"lunch", "Lunch", "", "lunch"}) RememberPhrase(phrase);
-    EXPECT_EQ(Search.history, (std::vector<std::string>{"lunch", "Lunch"}));
-}
-
-TEST(TimeLine, RunsFromSixInTheMorningToHalfPastElevenAtNight) {
-    const std::string lines = TimeLine();
-    EXPECT_TRUE(lines.starts_with("06:00 AM - \r\n\r\n06:30 AM - \r\n\r\n"));
-    EXPECT_NE(lines.find("11:30 AM - \r\n\r\n12:00 PM - \r\n\r\n12:30 PM - \r\n\r\n01:00 PM - "), std::string::npos);
-    EXPECT_TRUE(lines.ends_with("11:30 PM - \r\n\r\n"));
-    EXPECT_EQ(lines.size(), 36u * std::string("06:00 AM - \r\n\r\n").size());
 }
 }  // namespace

@@ -1,11 +1,10 @@
 // The to-do list: what files mean, what a save writes, moving rows, the printed sheet.
 #include "notes/modToDo.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 #include "tests/support/printer.h"
+
+using namespace std::string_literals;
 
 namespace {
 const std::string TenRows =
@@ -21,56 +20,49 @@ std::string Shown(const ToDoColumn<std::string>& texts, const ToDoColumn<bool>& 
 std::string Edited() { return Shown(ToDo.editedTexts, ToDo.done); }
 std::string Panel() { return Shown(ToDo.panelTexts, ToDo.panelDone); }
 
-void OpenList() {
-    TaskListOpenRequested = true;
-    ReadToDoList();
-}
-}  // namespace
-
-TEST(ToDo, FilesAsTheyAreRead) {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string rows;
-        bool tooLong = false;
-        bool backup = false;
-    };
-    const std::string empty10 = "\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n";
-    for (const Row& row :
-         {Row{"ten", TenRows, "+one|two||+| five |six \xF3 and \xF5||||+ten"},
-          Row{"three, the last without an end",
-              "\xF3"
-              "a\n\xF5"
-              "b\n\xF5"
-              "c",
-              "+a|b|c|||||||"},
-          Row{"ten empty lines", empty10, "|||||||||"},
-          Row{"eleven", TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
-          Row{"no mark", "Milk\r\n", "ilk|||||||||", false, true}, Row{"no bytes", "", "|||||||||"}}) {
-        SCOPED_TRACE(row.name);
-        const TemporaryFolder folder;
-        ScriptedDialogs dialogs;
-        folder.put("To Do.dat", row.file);
-        if (row.tooLong) dialogs.expect("line 11 of the file \"To Do.dat\"");
-        OpenList();
-        EXPECT_EQ(Edited(), row.rows);
-        EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);
+struct ToDoTest : PlannerTest {
+    void open(const std::string& bytes) { open(bytes, folder); }
+    static void open(const std::string& bytes, const TemporaryFolder& folder) {
+        folder.put("To Do.dat", bytes);
+        TaskListOpenRequested = true;
+        ReadToDoList();
+    }
+    void save() {
         dialogs.expect("To Do List Saved.");
         EXPECT_TRUE(SaveToDoList());
-        EXPECT_EQ(folder.backups(), row.backup ? row.file : "");
+        EXPECT_FALSE(TaskListChanged);
+    }
+};
+}  // namespace
+
+TEST_F(ToDoTest, FilesAsTheyAreRead) {
+    using Row = std::tuple<std::string, std::string, bool, bool>;
+    for (const auto& [file, rows, tooLong, backup] :
+         {Row{TenRows, "+one|two||+| five |six \xF3 and \xF5||||+ten", false, false},
+          Row{"\xF3x\n\xF5y\n\xF5z", "+x|y|z|||||||", false, false},  // the last without an end
+          Row{"\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n\r\n", "|||||||||", false, false},
+          Row{TenRows + "\xF5lost?\r\n", "+one|two||+| five |six \xF3 and \xF5||||+ten", true, true},
+          Row{"Milk\r\n", "ilk|||||||||", false, true}, Row{"", "|||||||||", false, false}}) {
+        SCOPED_TRACE(file);
+        const TemporaryFolder fresh;
+        if (tooLong) dialogs.expect("line 11 of the file \"To Do.dat\"");
+        open(file, fresh);
+        EXPECT_EQ(Edited(), rows);
+        EXPECT_FALSE(TaskListChanged || TaskListOpenRequested);
+        save();
+        EXPECT_EQ(fresh.backups(), backup ? file : "");
     }
 }
 
-TEST(ToDo, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
-    const TemporaryFolder folder;
+TEST_F(ToDoTest, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
     int shown = 0;
     ShowToDo = [&shown] { ++shown; };
-    folder.put("To Do.dat", "\xF3 \r\n\xF3two\r\n");
-    ReadToDoList();
-    EXPECT_EQ(Panel(), "+|+two||||||||");
-    folder.put("To Do.dat", "\r\n\r\n");
-    ReadToDoList();
-    EXPECT_EQ(Panel(), "+|+||||||||");
+    for (const auto& [file, rows] :
+         {std::pair{"\xF3 \r\n\xF3two\r\n", "+|+two||||||||"}, {"\r\n\r\n", "+|+||||||||"}}) {
+        folder.put("To Do.dat", file);
+        ReadToDoList();
+        EXPECT_EQ(Panel(), rows);
+    }
     std::filesystem::remove(folder.path() / "To Do.dat");
     ReadToDoList();
     EXPECT_EQ(Panel(), "|||||||||");
@@ -78,11 +70,8 @@ TEST(ToDo, PanelShowsNoBlankTextsAndEmptyLinesKeepMarks) {
     ShowToDo = {};
 }
 
-TEST(ToDo, SavesTheSameBytesAgainAndAgain) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    folder.put("To Do.dat", TenRows);
-    OpenList();
+TEST_F(ToDoTest, SavesTheSameBytesAgainAndAgain) {
+    open(TenRows);
     ToggleToDoDone(2);
     EXPECT_FALSE(TaskListChanged) << "a mark alone asks nothing at the end";
     SetToDoText(1, "two\r\nlines\nmore");
@@ -90,18 +79,14 @@ TEST(ToDo, SavesTheSameBytesAgainAndAgain) {
     std::string wanted = TenRows;
     wanted.replace(wanted.find("two\r\n\xF5"), 6, "two lines more\r\n\xF3");
     for (int times = 0; times < 2; ++times) {
-        dialogs.expect("To Do List Saved.");
-        EXPECT_TRUE(SaveToDoList());
+        save();
         EXPECT_EQ(folder.get("To Do.dat"), wanted);
-        EXPECT_FALSE(TaskListChanged);
     }
     ReadToDoList();
     EXPECT_TRUE(Panel().starts_with("+one|two lines more|+|+|")) << Panel();
 }
 
-TEST(ToDo, FailedSaveKeepsTheEditsAndTheFile) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+TEST_F(ToDoTest, FailedSaveKeepsTheEditsAndTheFile) {
     SetToDoText(0, "typed");
     std::filesystem::create_directories(folder.path() / "To Do.dat");  // nothing can be written in its place
     dialogs.expect("SaveToDoList");
@@ -110,11 +95,8 @@ TEST(ToDo, FailedSaveKeepsTheEditsAndTheFile) {
     EXPECT_EQ(ToDo.editedTexts[0], "typed");
 }
 
-TEST(ToDo, MovesRowsOnlyIntoAnEmptyOne) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    folder.put("To Do.dat", TenRows);
-    OpenList();
+TEST_F(ToDoTest, MovesRowsOnlyIntoAnEmptyOne) {
+    open(TenRows);
     EXPECT_FALSE(MoveToDoDown());
     EXPECT_FALSE(MoveToDoUp());
     EXPECT_FALSE(TaskListChanged);
@@ -126,9 +108,7 @@ TEST(ToDo, MovesRowsOnlyIntoAnEmptyOne) {
     EXPECT_FALSE(MoveToDoUp());
 }
 
-TEST(ToDo, PrintsEachControlAtItsPlace) {
-    const TemporaryFolder folder;
-    ScriptedDialogs dialogs;
+TEST_F(ToDoTest, PrintsEachControlAtItsPlace) {
     ToDoSheet sheet;
     for (std::size_t row = 0; row < ToDoRows; ++row) {
         const double top = 600 + 345 * static_cast<double>(row);
@@ -145,13 +125,12 @@ TEST(ToDo, PrintsEachControlAtItsPlace) {
     SetToDoText(2, std::string(200, 'x'));
     ToggleToDoDone(1);
     PrintToDoList(sheet);
-    const auto has = [&](const std::string& call) { return printer.count(call) > 0; };
-    EXPECT_TRUE(has("text 720 720 'Nov 22, 2026 To Do List' Arial 14 bold 000000"));
-    EXPECT_TRUE(has("box 840 1665 1080 1905 000000"));
-    EXPECT_TRUE(has("text 1200 1685 '2' Arial 10 000000"));
-    EXPECT_TRUE(has("text 1560 1715 'Water the plants' Arial 10 000000"));
+    for (const std::string& call :
+         {"text 720 720 'Nov 22, 2026 To Do List' Arial 14 bold 000000"s, "box 840 1665 1080 1905 000000"s,
+          "text 1200 1685 '2' Arial 10 000000"s, "text 1560 1715 'Water the plants' Arial 10 000000"s,
+          "text 1560 2110.2 '" + std::string(200, 'x') + "' Arial 4.98 000000"})  // fits the page
+        EXPECT_EQ(printer.count(call), 1U) << call;
     EXPECT_EQ(printer.count("box "), std::size_t{ToDoRows});
     EXPECT_EQ(printer.count("line "), 2U);
-    EXPECT_TRUE(has("text 1560 2110.2 '" + std::string(200, 'x') + "' Arial 4.98 000000")) << "fits the page";
-    EXPECT_EQ(printer.calls().back(), "end");
+    EXPECT_EQ(printer.page->calls().back(), "end");
 }

@@ -1,35 +1,25 @@
 // The alert store: reading, what is pending, the indicator, saving.
 #include "reminders/modAlerts.h"
-
-#include <gtest/gtest.h>
-
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class Alerts : public testing::Test {
-  protected:
+struct Alerts : PlannerTest {
     void read(std::string_view bytes) {
-        folder_.put("Alerts.dat", bytes);
+        folder.put("Alerts.dat", bytes);
         ReadAlerts();
     }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
 };
 
 TEST_F(Alerts, ArePendingFromTheirPeriodUpToTheirDate) {
     const int today = MakeDate(2026, 11, 22).number;
-    struct Row {
-        int days;
-        const char* period;
-        bool pending;
-    };
-    for (const Row& row : {Row{0, "0000", true}, Row{1, "0000", false}, Row{-1, "9999", false}, Row{7, "0007", true},
-                           Row{8, "0007", false}, Row{9999, "9999", true}, Row{0, "-001", false}}) {
-        read(std::to_string(today + row.days) + ":" + row.period + ":Call: Bob\r\n");
-        EXPECT_EQ(PendingAlertCount == 1, row.pending) << row.days << " " << row.period;
+    using Row = std::tuple<int, const char*, bool>;
+    for (const auto& [days, period, pending] :
+         {Row{0, "0000", true}, Row{1, "0000", false}, Row{-1, "9999", false}, Row{7, "0007", true},
+          Row{8, "0007", false}, Row{9999, "9999", true}, Row{0, "-001", false}}) {
+        read(std::to_string(today + days) + ":" + period + ":Call: Bob\r\n");
+        EXPECT_EQ(PendingAlertCount == 1, pending) << days << " " << period;
         EXPECT_EQ(AlertMessage[0], "Call: Bob");
-        EXPECT_EQ(AlertDate[0].number, today + row.days);
+        EXPECT_EQ(AlertDate[0].number, today + days);
     }
 }
 
@@ -38,13 +28,12 @@ TEST_F(Alerts, TheIndicatorFollowsTheTablesAndCanBeIgnored) {
     ShowAlertIndicator = [&] { ++shown; };
     read("46348:0000:A\r\n46348:0001:B\r\n");
     EXPECT_EQ(AlertIndicator.caption, "2 Pending Alerts");
-    EXPECT_EQ(AlertIndicator.toolTip, "Left Click to View, Right Click to Ignore.");
     IgnorePendingAlerts();
     EXPECT_EQ(AlertIndicator.caption, "Alerts Ignored");
     EXPECT_FALSE(AlertIndicator.pending);
     read("46348:0000:A\r\n");
     EXPECT_EQ(AlertIndicator.caption, "1 Pending Alert");
-    std::filesystem::remove(folder_.path() / "Alerts.dat");
+    std::filesystem::remove(folder.path() / "Alerts.dat");
     ReadAlerts();
     EXPECT_EQ(AlertIndicator.caption, "No Pending Alerts");
     EXPECT_EQ(AlertIndicator.imageToolTip, "No Alerts Exist");
@@ -56,7 +45,7 @@ TEST_F(Alerts, KeepTheLineBreaksOfAMessageInOneLine) {
     const std::string line = AlertLineOf({Date{39814}, 7, "one\r\ntwo: three"});
     EXPECT_EQ(line, "39814:0007:one\xD5\xD2two: three");
     AlertMasterList = {line};
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     AddingNewAlert = true;
     EXPECT_TRUE(SaveAlerts());
     EXPECT_FALSE(AddingNewAlert);
@@ -76,46 +65,45 @@ TEST_F(Alerts, FillThePendingListSortedByMessage) {
 
 TEST_F(Alerts, OfBadLinesStayInTheListAndAreReported) {
     const std::string file = "46348:0000:A\r\nnonsense\r\n\r\n46348:00x0:B\r\n46348\r\n46348:0000:C";
-    dialogs_.expect("\"Alerts.dat\", line 2, 4, 5");
+    dialogs.expect("\"Alerts.dat\", line 2, 4, 5");
     read(file);
     EXPECT_EQ(AlertCount, 5);
     EXPECT_EQ(PendingAlertCount, 2);
     AlertMasterList = AlertLine;
-    dialogs_.expect("Alert List Updated.");
+    dialogs.expect("Alert List Updated.");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_EQ(folder_.get("Alerts.dat"), "46348:0000:A\r\nnonsense\r\n46348:00x0:B\r\n46348\r\n46348:0000:C\r\n");
+    EXPECT_EQ(folder.get("Alerts.dat"), "46348:0000:A\r\nnonsense\r\n46348:00x0:B\r\n46348\r\n46348:0000:C\r\n");
 }
 
 TEST_F(Alerts, AnEmptyListLeavesNoFileAndAChangedFileIsKept) {
     read("46348:0000:A\r\n");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_FALSE(folder_.has("Alerts.dat"));
-    EXPECT_EQ(folder_.backups(), "");
-    folder_.put("Alerts.dat", "46348:0000:Typed elsewhere\r\n");
+    EXPECT_FALSE(folder.has("Alerts.dat"));
+    EXPECT_EQ(folder.backups(), "");
+    folder.put("Alerts.dat", "46348:0000:Typed elsewhere\r\n");
     AlertMasterList = {"46348:0000:A"};
-    dialogs_.expect("\"Backup\"");
+    dialogs.expect("\"Backup\"");
     EXPECT_TRUE(SaveAlerts());
-    EXPECT_EQ(folder_.backups(), "46348:0000:Typed elsewhere\r\n");
+    EXPECT_EQ(folder.backups(), "46348:0000:Typed elsewhere\r\n");
 }
 
 TEST_F(Alerts, TruncatedAnywhereOrVeryManyAreReadWithoutLoss) {
-    const std::string whole = "46348:0000:One\r\n46349:0010:Two: parts\r\n";
-    for (std::size_t length = 0; length <= whole.size(); ++length) {
-        const std::string part = whole.substr(0, length);
-        std::string last = part.ends_with("\n") ? "" : part.substr(part.rfind('\n') + 1);
-        if (last.ends_with("\r")) last.pop_back();
-        AlertRec alert;
-        if (!last.empty() && !ParseAlertLine(last, alert)) dialogs_.expect("ReadAlerts");
-        read(part);
-        std::string kept;
-        for (const auto& line : AlertLine) kept += line + "\r\n";
-        EXPECT_TRUE(kept.starts_with(part)) << length;
-    }
     std::string many;
     for (int i = 0; i < 20000; ++i) many += i == 9999 ? "bad\r\n" : "46348:0000:Number " + std::to_string(i) + "\r\n";
-    dialogs_.expect("line 10000.");
+    dialogs.expect("line 10000.");
     read(many);
     EXPECT_EQ(AlertCount, 20000);
     EXPECT_EQ(AlertIndicator.caption, "19999 Pending Alerts");
+    ForEachCut("46348:0000:One\r\n46349:0010:Two: parts\r\n",
+               [&](const std::string& cut, const TemporaryFolder& fresh) {
+                   AlertRec alert;
+                   if (!LastLine(cut).empty() && !ParseAlertLine(LastLine(cut), alert)) dialogs.expect("ReadAlerts");
+                   fresh.put("Alerts.dat", cut);
+                   ReadAlerts();
+                   dialogs.verify();
+                   std::string kept;
+                   for (const auto& line : AlertLine) kept += line + "\r\n";
+                   EXPECT_TRUE(kept.starts_with(cut));
+               });
 }
 }  // namespace

@@ -1,27 +1,18 @@
 // The birthday store: reading, what is pending, cells, saving.
 #include "reminders/modBirthdays.h"
 
-#include <gtest/gtest.h>
-
-#include <algorithm>
-
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class Birthdays : public testing::Test {
-  protected:
+struct Birthdays : PlannerTest {
     Birthdays() { Calendar.yearOnDisplay = 2026; }
     void read(std::string_view bytes) {
-        folder_.put("Birthdays.dat", bytes);
+        folder.put("Birthdays.dat", bytes);
         ReadBirthdays();
     }
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
 };
 
 TEST_F(Birthdays, AreReadByPosition) {
@@ -37,51 +28,41 @@ TEST_F(Birthdays, AreReadByPosition) {
 }
 
 TEST_F(Birthdays, ArePendingWithinTheirPeriod) {
-    struct Row {
-        const char* today;
-        const char* monthDay;
-        const char* period;
-        bool pending;
-    };
-    for (const Row& row : {Row{"11/22/2026", "11/22", "00", true}, Row{"11/22/2026", "11/23", "00", false},
-                           Row{"11/22/2026", "11/21", "10", false}, Row{"11/22/2026", "12/02", "10", true},
-                           Row{"11/22/2026", "12/03", "10", false}, Row{"11/22/2026", "11/22", "-1", false},
-                           Row{"12/28/2026", "01/03", "10", true}, Row{"12/28/2026", "12/30", "10", true},
-                           Row{"12/28/2026", "01/08", "10", false}, Row{"12/31/2026", "12/31", "01", true},
-                           Row{"02/28/2026", "02/29", "00", true}, Row{"02/28/2028", "02/29", "00", false},
-                           Row{"02/29/2028", "02/29", "00", true}, Row{"03/01/2026", "02/29", "00", false},
-                           Row{"12/28/2026", "02/29", "63", true}, Row{"11/22/2026", "11/22", "-5", false}}) {
-        const YearMonthDay day = PartsOf(DateOfText(row.today));
+    using Row = std::tuple<const char*, const char*, const char*, bool>;
+    for (const auto& [today, monthDay, period, pending] :
+         {Row{"11/22/2026", "11/22", "00", true}, Row{"11/22/2026", "11/23", "00", false},
+          Row{"11/22/2026", "11/21", "10", false}, Row{"11/22/2026", "12/02", "10", true},
+          Row{"11/22/2026", "12/03", "10", false}, Row{"11/22/2026", "11/22", "-1", false},
+          Row{"12/28/2026", "01/03", "10", true}, Row{"12/28/2026", "12/30", "10", true},
+          Row{"12/28/2026", "01/08", "10", false}, Row{"12/31/2026", "12/31", "01", true},
+          Row{"02/28/2026", "02/29", "00", true}, Row{"02/28/2028", "02/29", "00", false},
+          Row{"02/29/2028", "02/29", "00", true}, Row{"03/01/2026", "02/29", "00", false},
+          Row{"12/28/2026", "02/29", "63", true}, Row{"11/22/2026", "11/22", "-5", false}}) {
+        const YearMonthDay day = PartsOf(DateOfText(today));
         FixClock(day.year, day.month, day.day, 23, 59, 59);
-        read(std::string(row.monthDay) + ":" + row.period + ":Ann:1990\r\n");
-        EXPECT_EQ(PendingBirthdayCount == 1, row.pending) << row.today << " " << row.monthDay << " " << row.period;
-        EXPECT_EQ(BirthdayIndicator.pending, row.pending);
+        read(std::string(monthDay) + ":" + period + ":Ann:1990\r\n");
+        EXPECT_EQ(PendingBirthdayCount == 1, pending) << today << " " << monthDay << " " << period;
+        EXPECT_EQ(BirthdayIndicator.pending, pending);
     }
 }
 
 TEST_F(Birthdays, OfABadLineStayInTheListAndAreReported) {
-    dialogs_.expect("\"Birthdays.dat\", line 2, 3, 5");
+    dialogs.expect("\"Birthdays.dat\", line 2, 3, 5");
     read(
         "11/22:00:Ann:1990\r\n11/22:zz:Bad period:1990\r\n11/2\r\n11/23:01:Zoe:****\r\n13/45:00:No day:1990\r\n"
         "13/45:-1:Never asked:1990\r\n");
-    dialogs_.verify();
+    dialogs.verify();
     EXPECT_EQ(BirthdayCount, 6);
     EXPECT_EQ(PendingBirthdayCount, 2);
     EXPECT_EQ(BirthdayIndicator.toolTip, "2 Birthdays are Pending");
     BirthdayMasterList = BirthdayLine;
-    dialogs_.expect("Birthdays Updated.");
-    const std::string before = folder_.get("Birthdays.dat");
+    dialogs.expect("Birthdays Updated.");
+    const std::string before = folder.get("Birthdays.dat");
     EXPECT_TRUE(SaveBirthdays());
-    EXPECT_EQ(folder_.get("Birthdays.dat"), before);
-}
-
-TEST_F(Birthdays, TheIndicatorFollowsTheFile) {
-    read("11/22:00:Ann:1990\r\n");
-    EXPECT_EQ(BirthdayIndicator.toolTip, "1 Birthday is Pending");
-    std::filesystem::remove(folder_.path() / "Birthdays.dat");
+    EXPECT_EQ(folder.get("Birthdays.dat"), before);
+    std::filesystem::remove(folder.path() / "Birthdays.dat");
     ReadBirthdays();
     EXPECT_EQ(BirthdayIndicator.toolTip, "No Birthdays Pending");
-    EXPECT_FALSE(BirthdayIndicator.pending);
 }
 
 TEST_F(Birthdays, FillThePendingListSortedWithTheirIndexes) {
@@ -121,28 +102,25 @@ TEST_F(Birthdays, AreSavedInListOrderAndQuietlyTheFirstTime) {
     BirthdayMasterList = {"01/02:00:A:****", "", "07/04:05:B:1931"};
     QuietBirthdaySave = true;
     EXPECT_TRUE(SaveBirthdays());
-    EXPECT_EQ(folder_.get("Birthdays.dat"), "01/02:00:A:****\r\n07/04:05:B:1931\r\n");
-    dialogs_.expect("Birthdays Updated.");
+    EXPECT_EQ(folder.get("Birthdays.dat"), "01/02:00:A:****\r\n07/04:05:B:1931\r\n");
+    dialogs.expect("Birthdays Updated.");
     EXPECT_TRUE(SaveBirthdays());
     BirthdayMasterList.clear();
     EXPECT_TRUE(SaveBirthdays(true));
-    EXPECT_FALSE(folder_.has("Birthdays.dat"));
-    EXPECT_EQ(folder_.backups(), "01/02:00:A:****\r\n07/04:05:B:1931\r\n");
+    EXPECT_FALSE(folder.has("Birthdays.dat"));
+    EXPECT_EQ(folder.backups(), "01/02:00:A:****\r\n07/04:05:B:1931\r\n");
 }
 
 TEST_F(Birthdays, TruncatedAnywhereAreReadWithoutLoss) {
-    const std::string whole = "02/29:10:Lea Pyear:2000\r\n07/04:05:Grandpa:1931\r\n";
-    for (std::size_t length = 0; length < whole.size(); ++length) {
-        ScriptedDialogs boxes;
-        std::size_t lastLine = length == 0 ? 0 : whole.substr(0, length).rfind('\n');
-        lastLine = lastLine == std::string::npos ? length : length - lastLine - 1;
+    ForEachCut("02/29:10:Lea Pyear:2000\r\n07/04:05:Grandpa:1931\r\n", [&](const std::string& cut, const auto& fresh) {
+        fresh.put("Birthdays.dat", cut);
         BirthdayRec record;
-        const std::string tail = whole.substr(length - std::min(lastLine, length), lastLine);
-        if (lastLine > 0 && !ParseBirthday(tail.substr(0, tail.find('\r')), record)) boxes.expect("ReadBirthdays");
-        read(whole.substr(0, length));
+        if (!LastLine(cut).empty() && !ParseBirthday(LastLine(cut), record)) dialogs.expect("ReadBirthdays");
+        ReadBirthdays();
+        dialogs.verify();
         std::string kept;
         for (const auto& line : BirthdayLine) kept += line + "\r\n";
-        EXPECT_TRUE(kept.starts_with(whole.substr(0, length))) << length;
-    }
+        EXPECT_TRUE(kept.starts_with(cut));
+    });
 }
 }  // namespace

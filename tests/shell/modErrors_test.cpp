@@ -1,21 +1,10 @@
 // Error reports: the box and the log.
 #include "shell/modErrors.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-
-#include "base/diskio.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/disk.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
-class ErrorReports : public testing::Test {
-  protected:
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
-};
+struct ErrorReports : PlannerTest {};
 constexpr const char* Refused = "Error writing to Error.log.";
 }  // namespace
 
@@ -26,15 +15,12 @@ TEST_F(ErrorReports, AreShownAndLoggedBackToBack) {
     const std::string second =
         "11/22/2026 7:39:05 PM\r\nAn error occurred in Show1MonthCalendar.\r\nError Number: 57\r\n"
         "Error Description: h\xF6her\r\n\r\n";
-    boxes.expect("ReadAlerts");
-    boxes.expect("Show1MonthCalendar");
+    dialogs.expect("ReadAlerts");
+    dialogs.expect("Show1MonthCalendar");
     EXPECT_FALSE(Reporting("ReadAlerts", [] { throw Error(TypeMismatch); }));
-    EXPECT_EQ(folder.get("Error.log"), first);
     EXPECT_FALSE(Reporting("Show1MonthCalendar", [] { throw std::runtime_error("höher"); }));  // the system's, in UTF-8
     EXPECT_EQ(folder.get("Error.log"), first + second);
-    EXPECT_EQ(boxes.shown().front().text, first);
-    EXPECT_EQ(boxes.shown().front().title, "Program Error");
-    EXPECT_EQ(boxes.shown().front().buttons, Buttons::Ok);
+    EXPECT_EQ(dialogs.shown().front().title + dialogs.shown().front().text, "Program Error" + first);
     EXPECT_TRUE(Reporting("Nothing", [] {}));
 }
 
@@ -42,12 +28,12 @@ TEST_F(ErrorReports, EndWhereTheLogIsFull) {
     for (const std::size_t size : {32765u, 32766u, 32767u, 40000u}) {
         const std::string before(size, 'e');
         folder.put("Error.log", before);
-        if (size > 32766) boxes.expect(Refused);
+        if (size > 32766) dialogs.expect(Refused);
         WriteErrorLog("report");
-        boxes.verify();
+        dialogs.verify();
         EXPECT_EQ(folder.get("Error.log"), size > 32766 ? before : before + "report") << size;
     }
-    EXPECT_EQ(boxes.shown().back().title, "Tasmoro");
+    EXPECT_EQ(dialogs.shown().back().title, "Tasmoro");
 }
 
 TEST_F(ErrorReports, AppendWithoutReadingOrReplacingTheLog) {
@@ -60,17 +46,18 @@ TEST_F(ErrorReports, AppendWithoutReadingOrReplacingTheLog) {
 }
 
 TEST_F(ErrorReports, ShowBothMessagesWhereNothingCanBeWritten) {
+    const auto report = [&] {
+        dialogs.expect("An error occurred in ReadAlerts.");
+        dialogs.expect(Refused);
+        ReportError("ReadAlerts", 53, "File not found");
+    };
     std::filesystem::create_directory(folder.path() / "Error.log");
-    boxes.expect("An error occurred in ReadAlerts.");
-    boxes.expect(Refused);
-    ReportError("ReadAlerts", 53, "File not found");
+    report();
 #ifdef __linux__
     std::filesystem::remove(folder.path() / "Error.log");
     MemoryDisk disk(folder.path(), "size=64k");
     if (!disk.makeReadOnly()) GTEST_SKIP() << "a read-only disk can be mounted by root only";
-    boxes.expect("An error occurred in ReadAlerts.");
-    boxes.expect(Refused);
-    ReportError("ReadAlerts", 53, "File not found");
+    report();
     EXPECT_FALSE(folder.has("Error.log"));
 #endif
 }

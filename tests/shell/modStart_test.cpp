@@ -1,8 +1,6 @@
 // Start-up without windows and the commands of the pickers.
 #include "shell/modStart.h"
 
-#include "calendar/modCalendar.h"
-#include "marks/modCategories.h"
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "shell/modShortcuts.h"
@@ -12,35 +10,30 @@ namespace {
 class Start : public CalendarTest {};
 
 TEST_F(Start, YearOfThePickerIsCompleted) {
-    for (const auto& [typed, full] :
-         {std::pair{"9", "2009"}, std::pair{"09", "2009"}, std::pair{"30", "1930"}, std::pair{"2009", "2009"},
-          std::pair{"abc", "abc"}, std::pair{"", ""}, std::pair{"20266", "20266"}})
+    for (const auto& [typed, full] : {std::pair{"9", "2009"},
+                                      {"09", "2009"},
+                                      {"30", "1930"},
+                                      {"2009", "2009"},
+                                      {"abc", "abc"},
+                                      {"", ""},
+                                      {"20266", "20266"}})
         EXPECT_EQ(FullYearText(typed), full) << typed;
 }
 
-TEST_F(Start, PickersTakeAnyYearAndRefuseImpossibleDates) {
-    pickers = "March 9 1900";
-    ShowViewOfPickers("imgCal_Click", 12);
-    EXPECT_EQ(caption, "Tasmoro: 1900 Calendar");
-    pickers = "February 29 9996";
-    ShowViewOfPickers("imgCal_Click", 1);
-    EXPECT_EQ(caption, "Tasmoro: Feb 9996 Calendar");
-    pickers = "February 30 2026";
-    dialogs.expect("An error occurred in imgOpt_Click.\r\nError Number: 13\r\nError Description: Type mismatch");
-    ShowViewOfPickers("imgOpt_Click", 0);
-    EXPECT_EQ(SelectedDate, MakeDate(9996, 2, 29));
-    EXPECT_EQ(CalendarView, 1);
-}
-
-TEST_F(Start, AdvanceDrawsTheCurrentViewAndNothingBeforeThereIsOne) {
-    pickers = "August 15 2026";
-    ShowViewOfPickers("imgOpt_Click", 0);
-    EXPECT_EQ(CalendarView, 0);
+TEST_F(Start, PickersTakeAnyYearRefuseImpossibleDatesAndDrawTheCurrentView) {
+    const auto show = [this](const char* picked, int view) {
+        pickers = picked;
+        ShowViewOfPickers("imgOpt_Click", view);
+        return caption;
+    };
+    EXPECT_EQ(show("August 15 2026", 0), "") << "there is no view yet";
     EXPECT_EQ(SelectedDate, MakeDate(2026, 8, 15));
-    show(6, 2026, 1, 1);
-    pickers = "August 15 2026";
-    ShowViewOfPickers("imgOpt_Click", 0);
-    EXPECT_EQ(monthCaptions[0], "August, 2026");
+    EXPECT_EQ(show("March 9 1900", 12), "Tasmoro: 1900 Calendar");
+    EXPECT_EQ(show("February 29 9996", 1), "Tasmoro: Feb 9996 Calendar");
+    dialogs.expect("An error occurred in imgOpt_Click.\r\nError Number: 13\r\nError Description: Type mismatch");
+    EXPECT_EQ(show("February 30 2026", 0), "Tasmoro: Feb 9996 Calendar");
+    EXPECT_EQ(SelectedDate, MakeDate(9996, 2, 29));
+    EXPECT_EQ(show("August 15 2026", 0), "Tasmoro: Aug 2026 Calendar");
 }
 
 TEST_F(Start, EveryStepThatFailsReportsAndTheNextOneRuns) {

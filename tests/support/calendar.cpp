@@ -1,12 +1,6 @@
 // A calendar without windows.
 #include "tests/support/calendar.h"
 
-#include "calendar/modCalendar.h"
-#include "calendar/modSelection.h"
-#include "calendar/modShell.h"
-#include "calendar/modViews.h"
-#include "marks/modCategories.h"
-
 CalendarTest::CalendarTest() {
     InstallViews();
     Calendar.startedOn = MakeDate(2026, 11, 22);
@@ -26,18 +20,18 @@ CalendarTest::CalendarTest() {
     Shell.pressViewButton = [this](int view) { pressed = view; };
     Shell.captionMonth = [this](int index, const std::string& text) { monthCaptions[index] = text; };
     Shell.popUpDateOptions = [this](int, int) { ++menusOpened; };
-    putCategories();
+    PutCategories(folder);
+    ReadMarkerColors();
 }
 
 CalendarTest::~CalendarTest() { Shell = {}; }
 
-void CalendarTest::putCategories() const {
+void PutCategories(const TemporaryFolder& folder) {
     folder.put(
         "Marker Colors.dat",
         "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
         "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nEvent:32768\r\nHoliday:16711680\r\n"
         "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\nVacation:16711935\r\n");
-    ReadMarkerColors();
 }
 
 void CalendarTest::show(int view, int year, int month, int day) const {
@@ -59,6 +53,12 @@ bool CalendarTest::click(int year, int month, int day) {
     const Date date = MakeDate(year, month, day);
     const Cell cell = CellOf(date);
     return SelectAt(ShownMonthOf(date), cell.column + 0.5, cell.row + 1.25);
+}
+
+Color CalendarTest::painted(int year, int month, int day) {
+    const Cell cell = CellOf(MakeDate(year, month, day));
+    return ShownMonthOf(MakeDate(year, month, day))
+        .painted[static_cast<std::size_t>(cell.column)][static_cast<std::size_t>(cell.row)];
 }
 
 std::string CalendarTest::hoverText(int year, int month, int day) {

@@ -1,36 +1,35 @@
 // A calendar without windows: recorders for canvases, and what the main window was told.
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <deque>
 #include <map>
 #include <set>
 #include <string>
 #include <vector>
 
-#include "base/dates.h"
+#include "calendar/modPaint.h"
+#include "calendar/modSelection.h"
+#include "calendar/modShell.h"
+#include "calendar/modViews.h"
 #include "forms/recorder.h"
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "marks/modCategories.h"
+#include "tests/support/planner.h"
 
-class CalendarTest : public testing::Test {
+class CalendarTest : public PlannerTest {
   protected:
     CalendarTest();
     ~CalendarTest() override;
 
-    /// Writes fourteen categories with the colours below and reads them.
-    void putCategories() const;
     /// Selects the day, and draws the view (1, 6 or 12) for it.
     void show(int view, int year, int month, int day) const;
     /// The recorder of a month on display, by its place.
     const Recorder& month(std::size_t index) const { return recorders_.at(index); }
     /// The point in the middle of a date's cell, on its shown month; selects it.
     static bool click(int year, int month, int day);
+    /// The colour that a date's cell on its shown month was painted last.
+    static Color painted(int year, int month, int day);
     static std::string hoverText(int year, int month, int day);
 
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
     std::map<std::string, bool> enabled;  // menu items, as last told
     std::map<int, std::string> monthCaptions;
     std::string caption;
@@ -51,3 +50,6 @@ inline constexpr Color BirthdayColor = 0x800080;
 inline constexpr Color HolidayColor = 0xFF0000;
 inline constexpr Color QuickMarksColor = 0x808000;
 inline constexpr Color TodayColor = 0xFFFF00;
+
+/// Writes fourteen categories with those colours.
+void PutCategories(const TemporaryFolder& folder);

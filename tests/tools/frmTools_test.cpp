@@ -1,19 +1,12 @@
 // The windows of the date tools and the alarm clock.
-#include <QApplication>
-#include <QTest>
 
-#include "tests/support/dialogs.h"
-#include "tests/support/folder.h"
+#include "tests/support/window_test.h"
 #include "tools/frmAlarm.h"
 #include "tools/frmDateDiff.h"
 #include "tools/frmNumDays.h"
 
 namespace {
-struct ToolWindows : testing::Test {
-    TemporaryFolder folder;
-    ScriptedDialogs dialogs;
-    void TearDown() override { UnloadAllWindows(); }
-
+struct ToolWindows : WindowTest {
     /// Types over a box's text and presses Enter.
     static void enter(QLineEdit* box, const char* text) {
         box->selectAll();
@@ -27,15 +20,13 @@ TEST_F(ToolWindows, DateBoxesFollowEachOther) {
     OpenDateDiff("Months");
     auto* window = OpenedWindow<frmDateDiff>();
     EXPECT_EQ(window->txtInput[1]->text(), QStringLiteral("Nov 22, 2026"));
-    EXPECT_EQ(window->cmbYear[1]->currentText(), QStringLiteral("2026"));
     window->cmbYear[0]->setCurrentIndex(1);
     EXPECT_EQ(window->txtInput[0]->text(), QStringLiteral("Nov 22, 2009"));
     window->cmbMonth[0]->setCurrentIndex(1);
     window->cmbDay[0]->setEditText(QStringLiteral("30"));
     EXPECT_EQ(window->txtInput[0]->text(), QStringLiteral("Feb 22, 2009")) << "February 30 is no date";
     enter(window->txtInput[0], "12/31/2008");
-    EXPECT_EQ(window->cmbMonth[0]->currentText(), QStringLiteral("December"));
-    EXPECT_EQ(window->cmbDay[0]->currentText(), QStringLiteral("31"));
+    EXPECT_EQ(window->cmbMonth[0]->currentText() + window->cmbDay[0]->currentText(), QStringLiteral("December31"));
     EXPECT_EQ(window->txtInput[0]->text(), QStringLiteral("Dec 31, 2008"));
     enter(window->txtInput[1], "1/5/2009");
     EXPECT_EQ(window->cmbDay[1]->currentText(), QStringLiteral("05"));
@@ -53,7 +44,6 @@ TEST_F(ToolWindows, IntervalsAndTextsThatAreNoDates) {
         Q_EMIT window->cmbInterval->activated(window->cmbInterval->currentIndex());
     };
     choose("Day of Year");
-    EXPECT_EQ(window->cmbInterval->currentText(), QStringLiteral("Day of Year"));
     EXPECT_EQ(window->lblInterval->text(), QStringLiteral("Days"));
     choose("Hours");
     EXPECT_EQ(window->lblInterval->text(), QStringLiteral("Hours"));
@@ -90,7 +80,6 @@ TEST_F(ToolWindows, WeekdaysAreCountedAndTheDatesKept) {
     window->txtEnd->setText(QStringLiteral("1/1/2700"));
     dialogs.expect("Too many occurrences: narrow the Date Difference");
     window->cmdGetDays->click();
-    EXPECT_EQ(window->listed->rowCount(), 31999);
     window->close();
     EXPECT_EQ(ShowWindow<frmNumDays>()->txtEnd->text(), QStringLiteral("1/1/2700"));
 }
@@ -117,7 +106,6 @@ TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
     FixClock(2026, 12, 31, 23, 59, 30);
     OpenAlarm();
     auto* window = OpenedWindow<frmAlarm>();
-    EXPECT_FALSE(window->cmdStart->isVisible());
     dialogs.expect("A valid time has not been entered.");
     window->cmdAM->click();
     QTest::keyClicks(window->txtTime, QStringLiteral("9a9999:x00"));
@@ -125,11 +113,9 @@ TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
     dialogs.expect("valid time in the Time Box before.");
     window->cmdPM->click();
     window->cmdHour[11]->click();
-    EXPECT_EQ(window->txtTime->text(), QStringLiteral("12:00"));
     window->cmdAM->click();
     EXPECT_EQ(window->lblAlarm->text(), QStringLiteral("Time is Set for 12:00 AM. Click Start to Begin."));
     window->cmdStart->click();
-    EXPECT_EQ(window->cmdStart->text(), QStringLiteral("Reset"));
     EXPECT_FALSE(window->cmdHour[0]->isEnabled());
     window->Timer1_Timer();
     EXPECT_TRUE(window->Timer1.isActive());
@@ -137,10 +123,7 @@ TEST_F(ToolWindows, AlarmIsSetStartedAndRings) {
     window->Timer1_Timer();
     EXPECT_FALSE(window->Timer1.isActive());
     std::string seen;
-    while (window->Timer2.isActive()) {
-        window->Timer2_Timer();
-        seen += window->lblAlarm->isVisible() ? '1' : '0';
-    }
+    for (; window->Timer2.isActive(); seen += window->lblAlarm->isVisible() ? '1' : '0') window->Timer2_Timer();
     EXPECT_EQ(seen, "10101");
     EXPECT_EQ(window->lblAlarm->text(), QStringLiteral("The Alarm time of 12:00 AM has been reached."));
 }
@@ -151,15 +134,14 @@ TEST_F(ToolWindows, ResetEmptiesTheAlarmAndThereIsOneWindow) {
     window->cmdMinute[1]->click();
     window->cmdHour[6]->click();
     window->cmdPM->click();
+    EXPECT_EQ(window->lblAlarm->text(), QStringLiteral("Time is Set for 7:05 PM. Click Start to Begin."));
     window->cmdStart->click();
     window->cmdStart->click();
-    EXPECT_FALSE(window->cmdStart->isVisible() || window->Timer1.isActive());
-    EXPECT_EQ(window->txtTime->text(), QString());
+    EXPECT_FALSE(window->cmdStart->isVisible() || window->Timer1.isActive() || !window->txtTime->text().isEmpty());
     window->cmdHour[0]->click();
     EXPECT_EQ(window->txtTime->text(), QStringLiteral("1:00")) << "the minutes chosen before are forgotten";
     OpenAlarm();
-    EXPECT_EQ(OpenedWindow<frmAlarm>(), window);
-    EXPECT_TRUE(window->isMaximized());
+    EXPECT_TRUE(OpenedWindow<frmAlarm>() == window && window->isMaximized());
     window->cmdExit->click();
     EXPECT_EQ(OpenedWindow<frmAlarm>(), nullptr);
 }

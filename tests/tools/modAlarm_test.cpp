@@ -3,38 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include "base/errors.h"
+#include "tests/support/planner.h"
 
 TEST(Alarm, ReadsTimes) {
-    struct Row {
-        const char* text;
-        std::optional<int> minute;
-    };
-    for (const Row& row :
+    using Row = std::pair<const char*, std::optional<int>>;
+    for (const auto& [text, minute] :
          {Row{"7:00 AM", 420}, Row{"07:05 AM", 425}, Row{"12:30 AM", 30}, Row{"12:30 PM", 750}, Row{"11:59 PM", 1439},
           Row{"7 pm", 1140}, Row{"7:5 AM", 425}, Row{" AM", {}}, Row{":05 AM", {}}, Row{"7: AM", {}},
           Row{"0:30 AM", {}}, Row{"13:00 PM", {}}, Row{"7:60 AM", {}}, Row{"7:00:00 AM", {}}, Row{"007:00 AM", {}},
           Row{"7:00", {}}, Row{"", {}}, Row{"-7:00 AM", {}}})
-        EXPECT_EQ(ReadAlarmTime(row.text), row.minute) << row.text;
+        EXPECT_EQ(ReadAlarmTime(text), minute) << text;
     EXPECT_THROW(ReadAlarmTime("70000:00 AM"), Error);
-}
-
-TEST(Alarm, ButtonsCompleteTheTime) {
-    AlarmState alarm;
-    ChooseAlarmMinute(alarm, ":05");
-    EXPECT_FALSE(SetAlarmHalf(alarm, "AM"));
-    EXPECT_FALSE(ArmAlarm(alarm, {}));
-    alarm = {};
-    ChooseAlarmHour(alarm, "7");
-    EXPECT_TRUE(SetAlarmHalf(alarm, "AM"));
-    EXPECT_EQ(alarm.alarmText, "7:00 AM");
-    ChooseAlarmMinute(alarm, ":55");
-    ChooseAlarmHour(alarm, "12");
-    EXPECT_TRUE(SetAlarmHalf(alarm, "PM"));
-    EXPECT_EQ(alarm.alarmText, "12:55 PM");
-    alarm.timeText = "99";
-    EXPECT_FALSE(SetAlarmHalf(alarm, "PM"));
-    EXPECT_FALSE(ArmAlarm(alarm, {})) << "the time set before is gone";
 }
 
 TEST(Alarm, RingsAtItsMinuteAlsoOverMidnight) {
@@ -42,36 +21,19 @@ TEST(Alarm, RingsAtItsMinuteAlsoOverMidnight) {
     const auto at = [&](int days, int hour, int minute, int second) {
         return DateTime{day + days, hour * 3600 + minute * 60 + second};
     };
-    struct Row {
-        const char* alarm;
-        DateTime armed;
-        DateTime lastSilent;
-        DateTime rings;
-    };
-    for (const Row& row : {Row{"7:05 AM", at(0, 7, 5, 59), at(0, 7, 5, 0), at(0, 7, 5, 59)},
-                           Row{"7:05 AM", at(0, 6, 0, 0), at(0, 7, 4, 59), at(0, 7, 5, 9)},
-                           Row{"7:05 AM", at(0, 7, 6, 0), at(1, 7, 4, 59), at(1, 7, 5, 0)},
-                           Row{"12:00 AM", at(0, 23, 59, 58), at(0, 23, 59, 59), at(1, 0, 0, 8)},
-                           Row{"12:30 AM", at(0, 12, 30, 0), at(1, 0, 29, 59), at(1, 0, 30, 0)},
-                           Row{"11:59 PM", at(0, 23, 0, 0), at(0, 23, 58, 59), at(1, 8, 0, 0)}}) {  // slept through
+    using Row = std::tuple<const char*, DateTime, DateTime, DateTime>;
+    for (const auto& [time, armed, lastSilent, rings] :
+         {Row{"7:05 AM", at(0, 7, 5, 59), at(0, 7, 5, 0), at(0, 7, 5, 59)},
+          Row{"7:05 AM", at(0, 6, 0, 0), at(0, 7, 4, 59), at(0, 7, 5, 9)},
+          Row{"7:05 AM", at(0, 7, 6, 0), at(1, 7, 4, 59), at(1, 7, 5, 0)},
+          Row{"12:00 AM", at(0, 23, 59, 58), at(0, 23, 59, 59), at(1, 0, 0, 8)},
+          Row{"12:30 AM", at(0, 12, 30, 0), at(1, 0, 29, 59), at(1, 0, 30, 0)},
+          Row{"11:59 PM", at(0, 23, 0, 0), at(0, 23, 58, 59), at(1, 8, 0, 0)}}) {  // slept through
         AlarmState alarm;
-        alarm.alarmTime = ReadAlarmTime(row.alarm);
-        ASSERT_TRUE(ArmAlarm(alarm, row.armed));
-        if (row.lastSilent >= row.armed) {
-            EXPECT_FALSE(AlarmRings(alarm, row.lastSilent)) << row.alarm;
-        }
-        EXPECT_TRUE(AlarmRings(alarm, row.rings)) << row.alarm;
-        EXPECT_FALSE(AlarmRings(alarm, row.rings)) << "only once";
+        alarm.alarmTime = ReadAlarmTime(time);
+        ASSERT_TRUE(ArmAlarm(alarm, armed));
+        EXPECT_FALSE(lastSilent >= armed && AlarmRings(alarm, lastSilent)) << time;
+        EXPECT_TRUE(AlarmRings(alarm, rings)) << time;
+        EXPECT_FALSE(AlarmRings(alarm, rings)) << "only once";
     }
-}
-
-TEST(Alarm, SignalEndsLitAfterFiveBeats) {
-    AlarmState alarm;
-    std::string lights;
-    bool more = true;
-    while (more) {
-        more = NextAlarmBeat(alarm);
-        lights += alarm.lit ? '1' : '0';
-    }
-    EXPECT_EQ(lights, "10101");
 }

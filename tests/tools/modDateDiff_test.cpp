@@ -1,10 +1,7 @@
 // Differences of dates in every interval.
 #include "tools/modDateDiff.h"
 
-#include <gtest/gtest.h>
-
-#include "base/errors.h"
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 TEST(DateDiff, CountsEachInterval) {
     struct Row {
@@ -28,12 +25,4 @@ TEST(DateDiff, CountsEachInterval) {
                       row.texts[i])
                 << row.start << " " << Intervals[i].name;
     }
-}
-
-TEST(DateDiff, OtherNamesKeepTheInterval) {
-    const TemporaryFolder folder;
-    EXPECT_THROW(DateDifference({1}, {2}, DateDiff.intervalCode), Error) << "none is chosen yet";
-    EXPECT_TRUE(ChooseInterval("Weeks"));
-    EXPECT_FALSE(ChooseInterval("Day of Year"));
-    EXPECT_EQ(IntervalName(DateDiff.intervalCode), "Weeks");
 }

@@ -1,9 +1,7 @@
 // Weekdays of a period.
 #include "tools/modNumDays.h"
 
-#include <gtest/gtest.h>
-
-#include "tests/support/folder.h"
+#include "tests/support/planner.h"
 
 namespace {
 std::vector<std::string> EntriesOf(const Occurrences& found) {
@@ -11,19 +9,12 @@ std::vector<std::string> EntriesOf(const Occurrences& found) {
     ListOccurrences(found, [&entries](std::string_view entry) { entries.emplace_back(entry); });
     return entries;
 }
+using NumDaysTest = PlannerTest;
 }  // namespace
 
-TEST(NumDays, CountsBothEnds) {
-    const TemporaryFolder folder;
-    struct Row {
-        const char* start;
-        const char* end;
-        int weekday;
-        const char* text;
-        const char* first;
-        const char* last;
-    };
-    for (const Row& row :
+TEST_F(NumDaysTest, CountsBothEnds) {
+    using Row = std::tuple<const char*, const char*, int, const char*, const char*, const char*>;
+    for (const auto& [start, end, weekday, text, first, last] :
          {Row{"1/1/2009", "1/31/2009", 0, "Sunday found 4 times", "Sunday 1/4/2009", "Sunday 1/25/2009"},
           Row{"1/1/2009", "1/31/2009", 4, "Thursday found 5 times", "Thursday 1/1/2009", "Thursday 1/29/2009"},
           Row{"1/4/2009", "1/4/2009", 0, "Sunday found 1 times", "Sunday 1/4/2009", "Sunday 1/4/2009"},
@@ -31,18 +22,17 @@ TEST(NumDays, CountsBothEnds) {
           Row{"1/31/2009", "1/1/2009", 6, "Saturday found 0 times", "", ""},
           Row{"2/1/2008", "3/7/2009", 5, "Friday found 58 times", "Friday 2/1/2008", "Friday 3/6/2009"},
           Row{"12/24/9999", "12/31/9999", 5, "Friday found 2 times", "Friday 12/24/9999", "Friday 12/31/9999"}}) {
-        NumDays = {DateOfText(row.start), DateOfText(row.end), row.weekday};
+        NumDays = {DateOfText(start), DateOfText(end), weekday};
         const Occurrences found = CountWeekdays();
-        EXPECT_EQ(OccurrencesText(found), row.text) << row.start;
+        EXPECT_EQ(OccurrencesText(found), text) << start;
         const auto entries = EntriesOf(found);
-        EXPECT_EQ(entries.empty() ? "" : entries.front(), row.first);
-        EXPECT_EQ(entries.empty() ? "" : entries.back(), row.last);
+        EXPECT_EQ(entries.empty() ? "" : entries.front(), first);
+        EXPECT_EQ(entries.empty() ? "" : entries.back(), last);
         EXPECT_FALSE(found.tooMany);
     }
 }
 
-TEST(NumDays, StopsAtTheMostTheListShows) {
-    const TemporaryFolder folder;
+TEST_F(NumDaysTest, StopsAtTheMostTheListShows) {
     const Date monday = MakeDate(1500, 1, 1);
     for (const int more : {0, 1}) {
         NumDays = {monday, monday + 7 * (MostOccurrences - 1 + more), WeekdayOf(monday) - 1};

