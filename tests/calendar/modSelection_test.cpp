@@ -18,20 +18,6 @@ class Selection : public CalendarTest {
     }
 };
 
-TEST_F(Selection, ClickSelectsTheDayInEveryView) {
-    for (const int view : {1, 6, 12}) {
-        show(view, 2026, 7, 1);
-        ASSERT_TRUE(click(2026, 7, 31)) << view;
-        EXPECT_EQ(SelectedDate, MakeDate(2026, 7, 31));
-        EXPECT_EQ(SelectedCell, CellOf(MakeDate(2026, 7, 31)));
-        EXPECT_EQ(pickers, "July 31 2026");
-        EXPECT_EQ(holidayLabel, "No Holiday Assigned");
-        EXPECT_TRUE(enabled["mnuOptDateQuickMark"]);
-        EXPECT_FALSE(enabled["mnuOptDateClearMark"]);
-        EXPECT_TRUE(Calendar.typedIn);
-    }
-}
-
 TEST_F(Selection, HeaderAndEmptyCellsSelectNoDayAndForgetTheLast) {
     show(1, 2015, 2, 10);
     for (const auto& [x, y] : {std::pair{3.5, 0.3}, std::pair{3.5, 0.75}, std::pair{0.5, 5.5}, std::pair{6.9, 6.7}}) {
@@ -99,12 +85,9 @@ TEST_F(Selection, MenuFollowsWhatThePointerIsOver) {
         ShowHover(hover);
         return hover;
     };
-    EXPECT_TRUE(hoverOver(2).hasNote);
-    EXPECT_TRUE(enabled["mnuOptDateAttachHoverText"]);
-    EXPECT_FALSE(hoverOver(3).hasNote);
-    EXPECT_FALSE(enabled["mnuOptDateAttachHoverText"]);
+    EXPECT_TRUE(hoverOver(2).hasNote && enabled["mnuOptDateAttachHoverText"]);
+    EXPECT_FALSE(hoverOver(3).hasNote || enabled["mnuOptDateAttachHoverText"]);
     click(2026, 3, 2);
-    EXPECT_TRUE(enabled["mnuOptDateClearMark"]);
-    EXPECT_FALSE(enabled["mnuOptDateQuickMark"]);
+    EXPECT_TRUE(enabled["mnuOptDateClearMark"] && !enabled["mnuOptDateQuickMark"]);
 }
 }  // namespace

@@ -132,22 +132,14 @@ TEST_F(Views, MenuItemsFollowTheView) {
 }
 
 TEST_F(Views, NavigationLandsOnTheFirst) {
-    struct Row {
-        int view;
-        Date from;
-        void (*step)(int);
-        int direction;
-        Date to;
-    };
-    const Row rows[] = {
-        {1, MakeDate(2026, 12, 31), ShowNeighbourMonth, 1, MakeDate(2027, 1, 1)},
-        {1, MakeDate(2026, 1, 31), ShowNeighbourMonth, -1, MakeDate(2025, 12, 1)},
-        {6, MakeDate(2009, 3, 15), ShowNeighbourHalfYear, 1, MakeDate(2009, 9, 1)},
-        {6, MakeDate(2009, 9, 30), ShowNeighbourHalfYear, 1, MakeDate(2010, 3, 1)},
-        {6, MakeDate(2009, 3, 31), ShowNeighbourHalfYear, -1, MakeDate(2008, 9, 1)},
-        {12, MakeDate(2009, 7, 4), ShowNeighbourYear, -1, MakeDate(2008, 1, 1)},
-    };
-    for (const auto& [view, from, step, direction, to] : rows) {
+    using Row = std::tuple<int, Date, void (*)(int), int, Date>;
+    for (const auto& [view, from, step, direction, to] :
+         {Row{1, MakeDate(2026, 12, 31), ShowNeighbourMonth, 1, MakeDate(2027, 1, 1)},
+          Row{1, MakeDate(2026, 1, 31), ShowNeighbourMonth, -1, MakeDate(2025, 12, 1)},
+          Row{6, MakeDate(2009, 3, 15), ShowNeighbourHalfYear, 1, MakeDate(2009, 9, 1)},
+          Row{6, MakeDate(2009, 9, 30), ShowNeighbourHalfYear, 1, MakeDate(2010, 3, 1)},
+          Row{6, MakeDate(2009, 3, 31), ShowNeighbourHalfYear, -1, MakeDate(2008, 9, 1)},
+          Row{12, MakeDate(2009, 7, 4), ShowNeighbourYear, -1, MakeDate(2008, 1, 1)}}) {
         show(view, YearOf(from), MonthOf(from), DayOf(from));
         step(direction);
         EXPECT_EQ(SelectedDate, to) << FormatDate(from, "yyyy-mm-dd");

@@ -49,6 +49,7 @@ TEST_F(MarkCommands, ClearedMarkIsGoneAndItsTextReturnsWithTheNextMark) {
     ClearMarkFromSelectedDate();
     EXPECT_EQ(file(), "(none)");
     EXPECT_EQ(painted(2026, 5, 5), Black) << "a plain number again";
+    EXPECT_TRUE(enabled["mnuOptDateQuickMark"] && !enabled["mnuOptDateClearMark"]);
     QuickMarkSelectedDate();
     EXPECT_EQ(file(), "04:02:01:8421376-typed with care");
 }

@@ -16,7 +16,6 @@ struct HolidayManager : PlannerTest {
 TEST_F(HolidayManager, OpensOnTheClocksYearWithoutAFile) {
     dialogs.expect("There is no Holiday List for 2026");
     OpenHolidayList();
-    EXPECT_TRUE(HolidayList.lines.empty());
     RemoveHoliday();
     EXPECT_EQ(SaveHoliday("7/4", " Fourth: a feast "), HolidayField::Saved);
     EXPECT_EQ(folder.get("Holidays/2026Holidays.dat"), "07/04/26: Fourth: a feast \r\n");
@@ -64,13 +63,11 @@ TEST_F(HolidayManager, RemovesTheClickedEntryAndKeepsTheFileAsItWas) {
 
 TEST_F(HolidayManager, StartsOrLoadsTheListOfATypedYear) {
     open("07/04/11:A\r\n");
-    EXPECT_TRUE(StartHolidayList("2031"));
-    EXPECT_TRUE(HolidayList.lines.empty());
+    EXPECT_TRUE(StartHolidayList("2031") && HolidayList.lines.empty());
     EXPECT_EQ(SaveHoliday("1/1", "New Year"), HolidayField::Saved);
     EXPECT_EQ(folder.get("Holidays/2031Holidays.dat"), "01/01/31:New Year\r\n");
     EXPECT_EQ(HolidayDateShown(0), "Jan 01, 2031") << "the century is the list's";
-    EXPECT_TRUE(StartHolidayList("2011"));
-    EXPECT_EQ(HolidayList.lines.size(), 1U);
+    EXPECT_TRUE(StartHolidayList("2011") && HolidayList.lines.size() == 1);
     for (const char* typed : {"", "20x1", "99", "10000"}) {
         dialogs.expect("four digits");
         EXPECT_FALSE(StartHolidayList(typed));

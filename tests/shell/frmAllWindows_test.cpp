@@ -43,24 +43,13 @@ struct Case {
 
 void PrintTo(const Case& one, std::ostream* out) { *out << one.name; }
 
-template <class W>
-Case Of(const char* name) {
-    return {name, [] { return static_cast<Window*>(new W); }};
+template <class... W>
+std::vector<Case> Cases() {
+    return {{W::staticMetaObject.className(), [] { return static_cast<Window*>(new W); }}...};
 }
-
-const std::vector<Case>& AllWindows() {
-    static const std::vector<Case> all{
-        Of<frmMain>("frmMain"),         Of<frmMonth>("frmMonth"),       Of<frm6Months>("frm6Months"),
-        Of<frmYear>("frmYear"),         Of<frmColors>("frmColors"),     Of<frmMarkers>("frmMarkers"),
-        Of<frmIcons>("frmIcons"),       Of<frmIconTag>("frmIconTag"),   Of<frmNotes>("frmNotes"),
-        Of<frmNoteList>("frmNoteList"), Of<frmSearch>("frmSearch"),     Of<frmFUT>("frmFUT"),
-        Of<frmAddFUT>("frmAddFUT"),     Of<frmEditFUT>("frmEditFUT"),   Of<frmPref>("frmPref"),
-        Of<frmToDo>("frmToDo"),         Of<frmHelp>("frmHelp"),         Of<frmAlert>("frmAlert"),
-        Of<frmBDay>("frmBDay"),         Of<frmHolidays>("frmHolidays"), Of<frmDateDiff>("frmDateDiff"),
-        Of<frmNumDays>("frmNumDays"),   Of<frmAlarm>("frmAlarm"),
-    };
-    return all;
-}
+const auto AllWindows = Cases<frmMain, frmMonth, frm6Months, frmYear, frmColors, frmMarkers, frmIcons, frmIconTag,
+                              frmNotes, frmNoteList, frmSearch, frmFUT, frmAddFUT, frmEditFUT, frmPref, frmToDo,
+                              frmHelp, frmAlert, frmBDay, frmHolidays, frmDateDiff, frmNumDays, frmAlarm>;
 
 /// Whether the item is shown and has no command for good.
 bool StandsWithoutCommand(const QAction* item) {
