@@ -28,9 +28,6 @@ TEST_F(Views, MonthIsDrawnAsAGridOfNumbers) {
     EXPECT_TRUE(drawn.has("text 6.32 4.05 '28' MS Sans Serif 18 bold 000000"));
     EXPECT_EQ(drawn.containing("bold").size(), 28u);
     EXPECT_EQ(drawn.containing("line ").size(), 13u);  // six between columns, six above rows, one under the title
-}
-
-TEST_F(Views, NumbersOffsetPrintsSmallInTheCorner) {
     Paint.numbersOffset = true;
     show(1, 2026, 8, 1);  // starts on Saturday: the 31st is in the sixth row
     EXPECT_TRUE(month(0).has("text 6.05 0.8 '1' MS Sans Serif 10 bold 000000"));
@@ -61,16 +58,14 @@ TEST_F(Views, TodayIsPaintedWhileShown) {
 TEST_F(Views, YearShowsTwelveMonths) {
     show(12, 2009, 5, 17);
     EXPECT_EQ(caption, "Tasmoro: 2009 Calendar");
-    EXPECT_EQ(monthCaptions[1], "February, 2009");
-    EXPECT_EQ(monthCaptions[11], "December, 2009");
+    EXPECT_EQ(monthCaptions[1] + monthCaptions[11], "February, 2009December, 2009");
     for (int m = 0; m < 12; ++m) {
         std::string all;
         for (int day = 1; day <= DaysInMonth(2009, m + 1); ++day) all += std::to_string(day) + " ";
         EXPECT_EQ(NumbersOn(month(static_cast<std::size_t>(m))), all) << "month " << m;
     }
-    EXPECT_TRUE(month(7).has("text 1.42 6 '31' MS Sans Serif 8 000000"))
-        << month(7).containing("'31'").at(0);  // August: sixth row
-    EXPECT_TRUE(month(0).has("text 0.42 0.295 'Su' MS Sans Serif 8 000000")) << month(0).containing("'Su'").at(0);
+    EXPECT_TRUE(month(7).has("text 1.42 6 '31' MS Sans Serif 8 000000"));  // August: sixth row
+    EXPECT_TRUE(month(0).has("text 0.42 0.295 'Su' MS Sans Serif 8 000000"));
 }
 
 TEST_F(Views, SixMonthsReachIntoNextYear) {
@@ -131,7 +126,7 @@ TEST_F(Views, MenuItemsFollowTheView) {
     }
 }
 
-TEST_F(Views, NavigationLandsOnTheFirst) {
+TEST_F(Views, NavigationLandsOnTheFirstAndEndsWithTheCalendar) {
     using Row = std::tuple<int, Date, void (*)(int), int, Date>;
     for (const auto& [view, from, step, direction, to] :
          {Row{1, MakeDate(2026, 12, 31), ShowNeighbourMonth, 1, MakeDate(2027, 1, 1)},
@@ -145,13 +140,9 @@ TEST_F(Views, NavigationLandsOnTheFirst) {
         EXPECT_EQ(SelectedDate, to) << FormatDate(from, "yyyy-mm-dd");
         EXPECT_EQ(CalendarView, view);
     }
-}
-
-TEST_F(Views, EndsOfTheCalendarAreReported) {
     show(12, 9999, 5, 5);
     dialogs.expect("An error occurred in cmdNext_Click.");
     ShowNeighbourYear(1);
-    EXPECT_EQ(DisplayedYear, 9999);
     EXPECT_EQ(caption, "Tasmoro: 9999 Calendar");
 }
 
