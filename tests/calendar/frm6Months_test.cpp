@@ -1,7 +1,6 @@
 // The six-month view: its months and buttons, and days of next year marked, noted and kept in next year's files.
 #include "calendar/frm6Months.h"
 
-#include "marks/modMarkCommands.h"
 #include "tests/support/calendar.h"
 #include "tests/support/window_test.h"
 

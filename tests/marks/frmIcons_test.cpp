@@ -1,8 +1,6 @@
 // The picture library as built, the palette, the manager of its slots, and icons dragged on the month.
 #include "marks/frmIcons.h"
 
-#include <QClipboard>
-
 #include "calendar/modPaint.h"
 #include "forms/qt/iconPictures.h"
 #include "marks/frmIconTag.h"

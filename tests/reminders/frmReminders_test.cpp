@@ -20,13 +20,6 @@ struct ReminderWindows : WindowTest {
         QFocusEvent tab(QEvent::FocusIn, Qt::TabFocusReason);
         QCoreApplication::sendEvent(list, &tab);
     }
-    ~ReminderWindows() override {
-        UnloadAllWindows();
-        // What the main window filled goes with it.
-        Shell = {};
-        ShowAlertIndicator = ShowBirthdayIndicator = ShowPendingAlerts = ShowPendingBirthdays = {};
-        ShowCategoriesInMenus = {};
-    }
 };
 
 QString Text(const QListWidget* list, int row) { return list->item(row)->text(); }

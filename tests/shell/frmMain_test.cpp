@@ -1,15 +1,7 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
-#include <QScrollBar>
-#include <QWheelEvent>
-
 #include "calendar/frmYear.h"
-#include "calendar/modCalendar.h"
-#include "calendar/modPaint.h"
-#include "calendar/modShell.h"
-#include "calendar/modViews.h"
-#include "forms/qt/text.h"
 #include "marks/modIcons.h"
 #include "marks/modMarks.h"
 #include "marks/modSaveChanges.h"

@@ -1,8 +1,6 @@
 // The alarm's time, when it rings, and its signal.
 #include "tools/modAlarm.h"
 
-#include <gtest/gtest.h>
-
 #include "tests/support/planner.h"
 
 TEST(Alarm, ReadsTimes) {
