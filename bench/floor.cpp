@@ -1,6 +1,6 @@
 // The floor of start-up: the cheapest honest program of the same toolkit. A main window with as many menu items as the
 // planner's, an MDI area, and in it one child that paints a picture of the year view's size. It prints nothing; its
-// window's title tells bench/start.sh that it is on the screen.
+// window's title tells bench/start.py that it is on the screen.
 #include <QAction>
 #include <QApplication>
 #include <QImage>
