@@ -108,12 +108,10 @@ void frmMain::buildMenus() {
     };
 }
 
-QComboBox* frmMain::picker(const QString& name, const QString& spoken, int characters) {
+QComboBox* frmMain::picker(const QString& name, const QString& spoken) {
     auto* box = Named(new QComboBox(picTop), name, spoken);
     box->setLineEdit(new QLineEdit(box));  // makes it editable, and its list of items only when that is opened
     box->setInsertPolicy(QComboBox::NoInsert);
-    box->setMinimumContentsLength(characters);
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setToolTip(spoken);
     box->lineEdit()->setObjectName(name + QStringLiteral("_text"));
     box->lineEdit()->setAccessibleName(spoken);
@@ -128,9 +126,9 @@ void frmMain::buildTopStrip() {
     row->setContentsMargins(8, 2, 8, 2);
     row->setSpacing(4);
     row->addWidget(Label(QStringLiteral("lblSelect"), QStringLiteral("Select >"), picTop));
-    row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month"), 9));
-    row->addWidget(cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day"), 2));
-    row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year"), 4));
+    row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month")));
+    row->addWidget(cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day")));
+    row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year")));
     cmbYear->setCompleter(nullptr);  // "20" is 2020, not the first year of the list that begins so
     new Leaving(cmbYear, [this] { cmbYear_LostFocus(); });
     const std::array<QString, 2> optTips{QStringLiteral("Advance Calendar to Selected Date"),

@@ -69,7 +69,7 @@ class frmMain : public Window {
   private:
     void buildMenus();
     void buildTopStrip();
-    QComboBox* picker(const QString& name, const QString& spoken, int characters);
+    QComboBox* picker(const QString& name, const QString& spoken);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
     QWidget* makeRightPanel();

@@ -19,6 +19,8 @@
 #include "shell/modShortcuts.h"
 
 namespace {
+constexpr int FirstFrame = 16;  // ms, one frame of a usual screen
+
 void MakeLink(bool onDesktop, const std::string& caption, const std::string& programFile) {
     CreateShellLink(onDesktop ? LinkFolder::Desktop : LinkFolder::Programs, FromText(caption),
                     FromPath(DataPath(programFile).string()));
@@ -44,10 +46,13 @@ int main(int /*argc*/, char** argv) {
     fonts.reset();  // the window asks for fonts: two scans beside each other would both be done to the end
     auto* window = new frmMain;
     window->sizeToScreen();
-    // The calendar comes first; what stands beside it, and what nobody sees, follows when it is on the screen.
+    // The calendar comes first; what stands beside it, and what nobody sees, follows when it is on the screen. Until it
+    // is there the processors are left to those who bring it: the screen's server, the window manager.
     QObject::connect(window, &frmMain::firstPainted, window, [window] {
-        window->fillPanels();
-        QApplication::setWindowIcon(ProgramIcon());
+        QTimer::singleShot(FirstFrame, window, [window] {
+            window->fillPanels();
+            QApplication::setWindowIcon(ProgramIcon());
+        });
         QTimer::singleShot(1000, window, CheckPrinter);
     });
     window->show();  // the window manager places it while the calendar is being drawn
