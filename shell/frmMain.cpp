@@ -53,6 +53,12 @@ QStringList Numbers(int first, int last) {
     return numbers;
 }
 
+QStringList MonthNames() {
+    QStringList names;
+    for (int month = 1; month <= 12; ++month) names += FromText(MonthName(month));
+    return names;
+}
+
 /// Shows a panel in the place that is kept for it.
 void PutIn(QWidget* place, QWidget* panel, const QMargins& margins) {
     auto* layout = new QVBoxLayout(place);
@@ -80,7 +86,6 @@ frmMain::frmMain() : Window("frmMain", QStringLiteral("Tasmoro")) {
     layOutParts();
     fillShellCalls();
     fillReminderHooks();
-    loadComboBoxes();
 }
 
 // Nobody calls a window that is gone.
@@ -108,8 +113,10 @@ void frmMain::buildMenus() {
     };
 }
 
-QComboBox* frmMain::picker(const QString& name, const QString& spoken) {
+QComboBox* frmMain::picker(const QString& name, const QString& spoken, const QStringList& items, int visible) {
     auto* box = Named(new QComboBox(picTop), name, spoken);
+    box->addItems(items);
+    box->setMaxVisibleItems(visible);
     box->setLineEdit(new QLineEdit(box));  // makes it editable, and its list of items only when that is opened
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setToolTip(spoken);
@@ -126,9 +133,9 @@ void frmMain::buildTopStrip() {
     row->setContentsMargins(8, 2, 8, 2);
     row->setSpacing(4);
     row->addWidget(Label(QStringLiteral("lblSelect"), QStringLiteral("Select >"), picTop));
-    row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month")));
-    row->addWidget(cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day")));
-    row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year")));
+    row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month"), MonthNames(), 12));
+    row->addWidget(cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day"), Numbers(1, 31), 16));
+    row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year"), Numbers(2008, 2020), 13));
     cmbYear->setCompleter(nullptr);  // "20" is 2020, not the first year of the list that begins so
     new Leaving(cmbYear, [this] { cmbYear_LostFocus(); });
     const std::array<QString, 2> optTips{QStringLiteral("Advance Calendar to Selected Date"),
@@ -263,17 +270,6 @@ void frmMain::layOutParts() {
     all->addWidget(picBottom[1]);
     all->addWidget(picBottom[0]);
     middle_->setMinimumSize(Pixels(ViewWidth) / 2, Pixels(ViewHeight) / 2);
-}
-
-void frmMain::loadComboBoxes() {
-    QStringList months;
-    for (int month = 1; month <= 12; ++month) months += FromText(MonthName(month));
-    cmbMonth->addItems(months);
-    cmbDay->addItems(Numbers(1, 31));
-    cmbYear->addItems(Numbers(2008, 2020));
-    cmbMonth->setMaxVisibleItems(12);
-    cmbDay->setMaxVisibleItems(16);
-    cmbYear->setMaxVisibleItems(13);
 }
 
 // -- What the modules ask of the window -------------------------------------------------------------------------------

@@ -69,7 +69,7 @@ class frmMain : public Window {
   private:
     void buildMenus();
     void buildTopStrip();
-    QComboBox* picker(const QString& name, const QString& spoken);
+    QComboBox* picker(const QString& name, const QString& spoken, const QStringList& items, int visible);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
     QWidget* makeRightPanel();
@@ -77,7 +77,6 @@ class frmMain : public Window {
     void layOutParts();
     void fillShellCalls();
     void fillReminderHooks();
-    void loadComboBoxes();
 
     std::vector<Canvas*> openView(int view);
     void cmbYear_LostFocus();
