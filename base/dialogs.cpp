@@ -24,6 +24,11 @@ Answer Ask(const std::string& text, Buttons buttons, const std::string& title) {
     return Current.message(Utf8Of(text), buttons, Utf8Of(title));
 }
 
+bool AskToSave(const std::string& question, const std::string& title, const std::function<bool()>& save) {
+    const Answer answer = Ask(question, Buttons::YesNoCancel, title);
+    return answer == Answer::Yes ? save() : answer == Answer::No;
+}
+
 std::string AskForText(const std::string& prompt, const std::string& title, const std::string& preset) {
     if (!Current.input) throw std::logic_error("no input boxes in place for: " + prompt);
     return Current.input(Utf8Of(prompt), Utf8Of(title), preset).value_or(std::string());

@@ -32,5 +32,9 @@ void ShowUtf8Message(const std::string& utf8);
 /// Asks and returns the answer. Closing the box answers Cancel, or No where there is no Cancel.
 Answer Ask(const std::string& text, Buttons buttons, const std::string& title = ProgramTitle);
 
+/// The question of a window whose edits would go. Yes: true if `save` answers that they are saved; No: true; Cancel:
+/// false.
+bool AskToSave(const std::string& question, const std::string& title, const std::function<bool()>& save);
+
 /// Asks for a line of text. "" if the box is cancelled or left empty.
 std::string AskForText(const std::string& prompt, const std::string& title, const std::string& preset = {});

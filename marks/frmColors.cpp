@@ -278,20 +278,24 @@ void frmColors::cmdColor_Click(int index) {
 }
 
 void frmColors::cmdSave_Click() {
+    if (save()) close();
+}
+
+bool frmColors::save() {
     ByCategory<MarkerLabel> edited;
     for (int k = 0; k < CategoryCount; ++k) {
         const ColorPatch* label = lblMarker[At(k)];
         const auto caption = LineToSave(label->text());
         if (!caption) {
             lblMarker_Click(k);
-            return;
+            return false;
         }
         edited[At(k)] = {*caption, label->backColor(), TextColorOn(label->backColor())};
     }
-    if (!SaveEditedLabels(edited)) return;
+    if (!SaveEditedLabels(edited)) return false;
     leaving_ = true;
     RedrawCalendar();
-    close();
+    return true;
 }
 
 void frmColors::cmdExit_Click() {
@@ -302,11 +306,9 @@ void frmColors::cmdExit_Click() {
 void frmColors::mnuEditCaption_Click() { lblMarker_Click(std::max(current_, 0)); }
 
 bool frmColors::queryUnload() {
-    if (leaving_ || !isEdited()) return true;
-    const Answer answer = Ask("Do you want to save the changes to the captions and colors?", Buttons::YesNoCancel,
-                              "Available Marker Colors");
-    if (answer == Answer::Yes) cmdSave_Click();  // closes the window itself once all is saved
-    return answer == Answer::No;
+    return leaving_ || !isEdited() ||
+           AskToSave("Do you want to save the changes to the captions and colors?", "Available Marker Colors",
+                     [this] { return save(); });
 }
 
 void frmColors::unload() {

@@ -66,6 +66,7 @@ class frmColors : public Window {
     void txtEdit_Change();
     void cmdColor_Click(int index);
     void cmdSave_Click();
+    bool save();
     void cmdExit_Click();
     void mnuEditCaption_Click();
 

@@ -9,6 +9,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include "base/dialogs.h"
 #include "forms/qt/iconPictures.h"
 #include "forms/qt/text.h"
 #include "marks/frmIcons.h"
@@ -53,8 +54,10 @@ frmIconTag::frmIconTag() : Window("frmIconTag", QStringLiteral("Icon Manager")) 
 }
 
 void frmIconTag::ShowSlot(int slot) {
+    if (!queryUnload()) return;
     slot_ = slot;
     txtTag->setText(FromText(IconCaption.at(static_cast<std::size_t>(slot))));
+    caption_ = txtTag->text();
     txtTag->selectAll();
     txtTag->setFocus();
     imgIcon_Click(PictureOfSlot(slot));
@@ -74,10 +77,21 @@ void frmIconTag::imgIcon_Click(int picture) {
 }
 
 void frmIconTag::cmdSave_Click() {
+    if (save()) close();
+}
+
+bool frmIconTag::save() {
     const auto caption = LineToSave(txtTag->text());
-    if (!caption || !ChangePaletteSlot(slot_, *caption, picture_)) return;
+    if (!caption || !ChangePaletteSlot(slot_, *caption, picture_)) return false;
+    caption_ = txtTag->text();
     if (auto* palette = OpenedWindow<frmIcons>()) palette->ReassignIconTags();
-    close();
+    return true;
+}
+
+bool frmIconTag::queryUnload() {
+    if (txtTag->text() == caption_ && picture_ == PictureOfSlot(slot_)) return true;
+    return AskToSave("The icon has been changed. Do you want to save the changes?", "Icon Has Changed",
+                     [this] { return save(); });
 }
 
 void ShowIconTag(int slot) { ShowWindow<frmIconTag>()->ShowSlot(slot); }

@@ -15,6 +15,8 @@ class frmIconTag : public Window {
     frmIconTag();
     /// Shows the slot (0..95) of the palette.
     void ShowSlot(int slot);
+    /// Asks about a caption or an icon that was chosen and not saved.
+    bool queryUnload() override;
 
   protected:
     void keyPressEvent(QKeyEvent* event) override;
@@ -22,12 +24,14 @@ class frmIconTag : public Window {
   private:
     void imgIcon_Click(int picture);
     void cmdSave_Click();
+    bool save();
 
     QLineEdit* txtTag;
     IconImage* imgSelectedIcon;
     IconGrid* imgIcon;
     QPushButton* cmdSave;
     int slot_ = 0;
+    QString caption_;  // as the box showed it before anybody typed
     int picture_ = 0;  // the chosen number
 };
 

@@ -114,10 +114,8 @@ bool frmNotes::queryUnload() {
     if (busy_) return false;
     if (!NotesChanged) return true;
     QScopedValueRollback busy(busy_, true);
-    const Answer answer =
-        Ask("Text has been changed. Do you want to save the changes?", Buttons::YesNoCancel, "Text Has Been Changed.");
-    if (answer == Answer::Cancel) return false;
-    if (answer == Answer::Yes) return save();
+    if (!AskToSave("Text has been changed. Do you want to save the changes?", "Text Has Been Changed.", SaveOpenNote))
+        return false;
     NotesChanged = false;
     return true;
 }

@@ -210,16 +210,11 @@ void frmToDo::mnuFilePrint_Click() { PrintToDoList(sheet()); }
 
 bool frmToDo::queryUnload() {
     if (!TaskListChanged) return true;
-    switch (Ask("To Do List has been changed. Do you want to save the changes?", Buttons::YesNoCancel,
-                "To Do List Changed")) {
-        case Answer::Yes:
-            return save();
-        case Answer::No:
-            TaskListChanged = false;
-            return true;
-        default:
-            return false;
-    }
+    if (!AskToSave("To Do List has been changed. Do you want to save the changes?", "To Do List Changed",
+                   [this] { return save(); }))
+        return false;
+    TaskListChanged = false;
+    return true;
 }
 
 void frmToDo::unload() { ForgetToDoEdits(); }

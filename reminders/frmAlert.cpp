@@ -225,6 +225,7 @@ void frmAlert::showEdit() {
     txtValue->setText(FromText(AlertList.edit.period));
     showPeriodChoice();
     txtMessage->setPlainText(FromText(Replaced(AlertList.edit.message, CrLf, "\n")));
+    shown_ = typed();
 }
 
 void frmAlert::showSelected() {
@@ -259,6 +260,18 @@ void frmAlert::showPeriodChoice() {
 
 AlertEdit frmAlert::typed() const {
     return {ToText(txtDate->text()), ToText(txtValue->text()), Replaced(ToText(txtMessage->toPlainText()), "\n", CrLf)};
+}
+
+/// A new alert that has no message yet is no loss.
+bool frmAlert::isEdited() const {
+    const AlertEdit now = typed();
+    return AddingNewAlert ? !now.message.empty() : now != shown_;
+}
+
+/// Asks about what was typed before other things take its place.
+bool frmAlert::mayLeaveEdit() {
+    return !isEdited() || AskToSave("The alert has been changed. Do you want to save the changes?", "Alert Has Changed",
+                                    [this] { return save(); });
 }
 
 void frmAlert::focusOn(AlertField field) {
@@ -325,47 +338,66 @@ void frmAlert::select(int entry) {
 
 void frmAlert::lstAlerts_Click(int entry) {
     if (entry < 0 || entry >= lstAlerts[1]->count()) return;
-    SelectAlert(entry);
+    const std::string line = AlertLineOfEntry(entry);
+    if (!mayLeaveEdit()) return showSelected();
+    const int now = AlertEntryOfLine(line);
+    if (now < 0) return;  // the save has put another line in its place
+    SelectAlert(now);
     showEdit();
 }
 
 void frmAlert::view(bool pendingOnly) {
+    if (!AddingNewAlert && !mayLeaveEdit()) {
+        showLists();
+        return showSelected();
+    }
     ViewAlerts(pendingOnly, typed());
     showAll();
 }
 
 void frmAlert::proposeNew(Date date) {
-    const bool adding = AddingNewAlert;
-    if (adding) AlertList.edit = typed();
+    if (AddingNewAlert)
+        AlertList.edit = typed();
+    else if (!mayLeaveEdit())
+        return;
     NewAlertForDate(date);
     showEdit();
     txtMessage->setFocus();
 }
 
 void frmAlert::cmdSave_Click(int index) {
+    if (save() && index == 1) close();
+}
+
+bool frmAlert::save() {
     dateLeft_->cancel();
     periodLeft_->cancel();
     takeTypedBoxes();
     const auto message = TextToSave(txtMessage->toPlainText());
-    if (!message) return focusOn(AlertField::Message);
     const AlertField field =
-        SaveAlert({ToText(txtDate->text()), ToText(txtValue->text()), Replaced(*message, "\n", CrLf)});
-    if (field != AlertField::Saved) {
-        showLists();  // a failed save has read the file again, which somebody else may have written
-        showSelected();
-        return focusOn(field);
+        message ? SaveAlert({ToText(txtDate->text()), ToText(txtValue->text()), Replaced(*message, "\n", CrLf)})
+                : AlertField::Message;
+    if (field == AlertField::Saved) {
+        showAll();
+        return true;
     }
-    showAll();
-    if (index == 1) close();
+    showLists();  // a failed save has read the file again, which somebody else may have written
+    showSelected();
+    focusOn(field);
+    return false;
 }
 
 void frmAlert::cmdDelete_Click() {
     if (AlertLine.empty()) return;
+    // What was typed of the selected alert goes with it; a new one is another, and once it is saved all are listed
+    // anew.
+    if (AddingNewAlert && (!mayLeaveEdit() || !AddingNewAlert)) return;
     DeleteAlert();
     showAll();
 }
 
 void frmAlert::mnuFileNew_Click() {
+    if (!mayLeaveEdit()) return;
     NewAlert();
     AlertList.edit.date = ToText(txtDate->text());
     showEdit();
@@ -377,6 +409,7 @@ void frmAlert::mnuEditFind_Click() {
 }
 
 void frmAlert::mnuOptDeleteOldAlerts_Click() {
+    if (!mayLeaveEdit()) return;
     DeleteExpiredAlerts();
     showAll();
 }

@@ -46,6 +46,9 @@ class frmAlert : public Window {
     /// Begins a new alert on the date; a new one being typed only gets the date.
     void proposeNew(Date date);
 
+    /// Asks about an alert that was typed and not saved.
+    bool queryUnload() override { return mayLeaveEdit(); }
+
   protected:
     void unload() override;
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -67,6 +70,9 @@ class frmAlert : public Window {
     void showDate();
     void showPeriodChoice();
     AlertEdit typed() const;
+    bool isEdited() const;
+    bool mayLeaveEdit();
+    bool save();
     void focusOn(AlertField field);
     void sortBy(int element);
     void select(int entry);
@@ -82,6 +88,7 @@ class frmAlert : public Window {
     void mnuEditFind_Click();
     void mnuOptDeleteOldAlerts_Click();
 
+    AlertEdit shown_;  // what the controls held before anybody typed
     Leaving* dateLeft_;
     Leaving* periodLeft_;
 };

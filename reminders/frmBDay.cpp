@@ -53,7 +53,7 @@ frmBDay::frmBDay() : Window("frmBDay", QStringLiteral("Birthday Management")) {
     layOut();
     OpenBirthdayList();
     showLists();
-    mnuFileNew_Click();
+    startNew();
 }
 
 // -- Making ---------------------------------------------------------------------------------------------------------
@@ -70,7 +70,7 @@ void frmBDay::makeEdits() {
     dateLeft_ = new Leaving(txt[1], [this] { txt_LostFocus(); });
     connect(txt[0], &QLineEdit::returnPressed, this, [this] { txt[1]->setFocus(); });
     connect(txt[1], &QLineEdit::returnPressed, this, [this] { cmdSave->setFocus(); });
-    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    connect(cmdSave, &QPushButton::clicked, this, [this] { save(); });
 }
 
 void frmBDay::makePeriods() {
@@ -113,9 +113,9 @@ void frmBDay::buildMenus() {
         new QMenuBar(this),
         {Without("mnuFile", "&File", ""),
          With(
-             "mnuFileNew", "&New", "mnuFile", [this] { mnuFileNew_Click(); }, QKeySequence::New),
+             "mnuFileNew", "&New", "mnuFile", [this] { startNew(); }, QKeySequence::New),
          With(
-             "mnuFileSave", "&Save", "mnuFile", [this] { cmdSave_Click(); }, QKeySequence::Save),
+             "mnuFileSave", "&Save", "mnuFile", [this] { save(); }, QKeySequence::Save),
          With(
              "mnuFilePrint", "&Print Record", "mnuFile", [this] { PrintBirthdayRecord(typed()); }, QKeySequence::Print),
          With("mnuFilePrintList", "Print &Entire List", "mnuFile", [this] { PrintBirthdayList(visibleEntries()); }),
@@ -195,6 +195,7 @@ void frmBDay::showEdit(const BirthdayEdit& shown) {
         option->setChecked(shown.period && option == optNotify[At(*shown.period)]);
         option->setAutoExclusive(true);
     }
+    shown_ = typed();
 }
 
 const std::vector<std::string>& frmBDay::visibleEntries() const {
@@ -229,6 +230,26 @@ BirthdayEdit frmBDay::typed() const {
     return edit;
 }
 
+/// A new birthday of which neither name nor date is there yet is no loss.
+bool frmBDay::isEdited() const {
+    BirthdayEdit now = typed();
+    now.age = shown_.age;  // nobody types it
+    return now != shown_ && (BirthdayList.edited >= 0 || !now.name.empty() || !now.date.empty());
+}
+
+/// Asks about what was typed before other things take its place.
+bool frmBDay::mayLeaveEdit() {
+    return !isEdited() || AskToSave("The birthday has been changed. Do you want to save the changes?",
+                                    "Birthday Has Changed", [this] { return save(); });
+}
+
+/// Selects the birthday being edited, and no other.
+void frmBDay::showSelected() {
+    const QSignalBlocker quiet(visibleList());
+    visibleList()->clearSelection();
+    selectBirthday(BirthdayList.edited);
+}
+
 void frmBDay::lstData_Click(int element) {
     QListWidget* list = lstData[At(element)];
     const auto& entries = element == 1 ? BirthdayList.byMonth : BirthdayList.byName;
@@ -237,7 +258,15 @@ void frmBDay::lstData_Click(int element) {
         if (list->selectedItems().isEmpty()) BirthdayList.edited = -1;
         return;
     }
-    if (const auto index = RecordIndex(entries[At(row)])) showEdit(SelectBirthday(*index));
+    const auto index = RecordIndex(entries[At(row)]);
+    if (!index) return;
+    if (!isEdited()) return showEdit(SelectBirthday(*index));
+    const std::string line = BirthdayLine[At(*index)];
+    if (!mayLeaveEdit()) return showSelected();
+    const int now = BirthdayOfLine(line);
+    if (now < 0) return;  // the save has put another line in its place
+    showEdit(SelectBirthday(now));
+    showSelected();
 }
 
 void frmBDay::txt_LostFocus() {
@@ -254,30 +283,38 @@ void frmBDay::forgetMissingYear() {
 }
 
 void frmBDay::proposeNew(Date date) {
-    if (BirthdayList.edited >= 0) mnuFileNew_Click();
+    if (BirthdayList.edited >= 0 && !startNew()) return;
     txt[1]->setText(FromText(FormatDate(date, "mm/dd")));
     chkRememberAge->setChecked(false);  // there is no year to remember
+    shown_.date = ToText(txt[1]->text());
+    shown_.rememberAge = false;
     setTabOrder(txt[0], txt[1]);
     txt[0]->setFocus();
 }
 
 // -- Commands -------------------------------------------------------------------------------------------------------
 
-void frmBDay::cmdSave_Click() {
+bool frmBDay::save() {
     dateLeft_->cancel();
     const auto name = LineToSave(txt[0]->text());
-    if (!name) return txt[0]->setFocus();
+    if (!name) {
+        txt[0]->setFocus();
+        return false;
+    }
     forgetMissingYear();
     BirthdayEdit edit = typed();
     edit.name = *name;
     const BirthdayField field = SaveBirthday(edit);
     if (field == BirthdayField::Name) txt[0]->setFocus();
     if (field == BirthdayField::Date) txt[1]->setFocus();
-    if (field != BirthdayField::Saved && field != BirthdayField::Abandoned) return;
+    const bool saved = field == BirthdayField::Saved;
+    if (!saved && field != BirthdayField::Abandoned) return false;
     showLists();  // a failed save, too, has read the file again, which somebody else may have written
-    if (BirthdayList.edited < 0) return;
+    if (saved) shown_ = typed();
+    if (BirthdayList.edited < 0) return saved;
     selectBirthday(BirthdayList.edited);
-    if (field == BirthdayField::Saved) showEdit(SelectBirthday(BirthdayList.edited));
+    if (saved) showEdit(SelectBirthday(BirthdayList.edited));
+    return saved;
 }
 
 void frmBDay::cmdDelete_Click() {
@@ -311,18 +348,20 @@ void frmBDay::cmdSort_Click() {
             visibleList()->item(static_cast<int>(row))->setSelected(true);
 }
 
-void frmBDay::mnuFileNew_Click() {
+bool frmBDay::startNew() {
+    if (!mayLeaveEdit()) return false;
     BirthdayList.edited = -1;
     cmdClear_Click();
     showEdit({});
     txt[0]->setFocus();
     dateLeft_->cancel();  // the date box was emptied, nobody left it so
+    return true;
 }
 
 void frmBDay::view(bool pendingOnly) {
+    if (!startNew()) return;
     ViewBirthdays(pendingOnly);
     showLists();
-    mnuFileNew_Click();
 }
 
 void frmBDay::unload() { CloseBirthdayList(); }

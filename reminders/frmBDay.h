@@ -42,6 +42,9 @@ class frmBDay : public Window {
     /// Proposes a new birthday on the date, without a year.
     void proposeNew(Date date);
 
+    /// Asks about a birthday that was typed and not saved.
+    bool queryUnload() override { return mayLeaveEdit(); }
+
   protected:
     void unload() override;
 
@@ -57,6 +60,10 @@ class frmBDay : public Window {
     void showEdit(const BirthdayEdit& shown);
     void selectBirthday(int index);
     BirthdayEdit typed() const;
+    bool isEdited() const;
+    bool mayLeaveEdit();
+    bool save();
+    void showSelected();
     int visibleElement() const { return lstData[1]->isVisibleTo(this) ? 1 : 2; }
     QListWidget* visibleList() const { return lstData[static_cast<std::size_t>(visibleElement())]; }
     const std::vector<std::string>& visibleEntries() const;
@@ -64,13 +71,13 @@ class frmBDay : public Window {
     void lstData_Click(int element);
     void txt_LostFocus();
     void forgetMissingYear();
-    void cmdSave_Click();
     void cmdDelete_Click();
     void cmdClear_Click();
     void cmdSort_Click();
-    void mnuFileNew_Click();
+    bool startNew();
     void view(bool pendingOnly);
 
+    BirthdayEdit shown_;  // what the controls held before anybody typed
     Leaving* dateLeft_;
 };
 

@@ -6,7 +6,9 @@
 #include <QMenuBar>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <algorithm>
 
+#include "base/dialogs.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "reminders/modHolidayManager.h"
@@ -46,7 +48,7 @@ void frmHolidays::makeControls() {
     connect(lstHolidays, &QListWidget::itemClicked, this, [this] { lstHolidays_Click(SelectedRow(lstHolidays)); });
     connect(txtDate, &QLineEdit::returnPressed, this, [this] { focusOn(txtDesc); });
     connect(txtDesc, &QLineEdit::returnPressed, cmdSave, [this] { cmdSave->setFocus(); });
-    connect(cmdSave, &QPushButton::clicked, this, [this] { cmdSave_Click(); });
+    connect(cmdSave, &QPushButton::clicked, this, [this] { save(); });
     connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
     connect(cmdAddNew, &QPushButton::clicked, this, [this] { cmdAddNew_Click(); });
     new QShortcut(QKeySequence::Cancel, this, [this] { close(); });
@@ -110,15 +112,33 @@ void frmHolidays::showLines(int entry) {
     lstHolidays->setCurrentRow(entry);
 }
 
+void frmHolidays::selectLine(int entry) {
+    const QSignalBlocker quiet(lstHolidays);
+    lstHolidays->setCurrentRow(entry);
+}
+
 void frmHolidays::showYear() {
     const QString year = FromText(HolidayList.year);
     ShowInBox(cmbYear, cmbYear->findText(year), year);
 }
 
 void frmHolidays::showEntry(int entry) {
-    txtDate->setText(FromText(HolidayDateShown(entry)));
-    txtDesc->setText(FromText(HolidayDescription(entry)));
+    showEdit(FromText(HolidayDateShown(entry)), FromText(HolidayDescription(entry)));
+}
+
+void frmHolidays::showEdit(const QString& date, const QString& description) {
+    txtDate->setText(date);
+    txtDesc->setText(description);
     txtDesc->setCursorPosition(0);
+    shownDate_ = txtDate->text();
+    shownDescription_ = txtDesc->text();
+}
+
+/// Asks about what was typed before other things take its place.
+bool frmHolidays::mayLeaveEdit() {
+    if (txtDate->text() == shownDate_ && txtDesc->text() == shownDescription_) return true;
+    return AskToSave("The holiday has been changed. Do you want to save the changes?", "Holiday Has Changed",
+                     [this] { return save(); });
 }
 
 void frmHolidays::focusOn(QLineEdit* box) {
@@ -127,40 +147,44 @@ void frmHolidays::focusOn(QLineEdit* box) {
 }
 
 void frmHolidays::proposeNew(Date date) {
+    if (!mayLeaveEdit()) return;
     const std::string year = FormatDate(date, "yyyy");
     if (HolidayList.year != year) SelectHolidayYear(year);
     HolidayList.clicked = -1;
     showList(-1);
-    txtDate->setText(FromText(FormatDate(date, "mmm dd, yyyy")));
+    showEdit(FromText(FormatDate(date, "mmm dd, yyyy")), {});
     txtDesc->setFocus();
 }
 
 // -- Commands -------------------------------------------------------------------------------------------------------
 
 void frmHolidays::cmbYear_Click() {
-    SelectHolidayYear(ToText(cmbYear->currentText()));
+    const std::string year = ToText(cmbYear->currentText());
+    if (!mayLeaveEdit()) return showYear();
+    SelectHolidayYear(year);
     showList(0);
 }
 
 void frmHolidays::lstHolidays_Click(int entry) {
     if (entry < 0) return;
-    HolidayList.clicked = entry;
-    showEntry(entry);
+    const std::string line = HolidayList.lines[static_cast<std::size_t>(entry)];
+    if (!mayLeaveEdit()) return selectLine(HolidayList.clicked);
+    const auto now = std::find(HolidayList.lines.begin(), HolidayList.lines.end(), line);
+    if (now == HolidayList.lines.end()) return;  // the save has put another line in its place
+    HolidayList.clicked = static_cast<int>(now - HolidayList.lines.begin());
+    selectLine(HolidayList.clicked);
+    showEntry(HolidayList.clicked);
 }
 
-void frmHolidays::cmdSave_Click() {
+bool frmHolidays::save() {
     const auto description = LineToSave(txtDesc->text());
-    if (!description) return focusOn(txtDesc);
-    switch (SaveHoliday(ToText(txtDate->text()), *description)) {
-        case HolidayField::Date:
-            return focusOn(txtDate);
-        case HolidayField::Description:
-            return focusOn(txtDesc);
-        case HolidayField::Abandoned:
-            return showLines(HolidayList.clicked);
-        case HolidayField::Saved:
-            return showList(0);
-    }
+    const HolidayField field =
+        description ? SaveHoliday(ToText(txtDate->text()), *description) : HolidayField::Description;
+    if (field == HolidayField::Date) focusOn(txtDate);
+    if (field == HolidayField::Description) focusOn(txtDesc);
+    if (field == HolidayField::Abandoned) showLines(HolidayList.clicked);
+    if (field == HolidayField::Saved) showList(0);
+    return field == HolidayField::Saved;
 }
 
 void frmHolidays::cmdDelete_Click() {
@@ -170,13 +194,15 @@ void frmHolidays::cmdDelete_Click() {
 }
 
 void frmHolidays::cmdAddNew_Click() {
-    txtDesc->clear();
-    txtDate->clear();
+    if (!mayLeaveEdit()) return;
+    showEdit({}, {});
     txtDate->setFocus();
 }
 
 void frmHolidays::mnuFileNew_Click() {
-    if (!StartHolidayList(ToText(cmbYear->currentText()))) {
+    const std::string year = ToText(cmbYear->currentText());
+    if (!mayLeaveEdit()) return;
+    if (!StartHolidayList(year)) {
         cmbYear->setFocus();
         return;
     }

@@ -34,6 +34,9 @@ class frmHolidays : public Window {
     /// Proposes a new holiday on the date, in the list of its year.
     void proposeNew(Date date);
 
+    /// Asks about a holiday that was typed and not saved.
+    bool queryUnload() override { return mayLeaveEdit(); }
+
   protected:
     void unload() override;
 
@@ -44,16 +47,22 @@ class frmHolidays : public Window {
     void PopulateComboList();
     void showList(int entry);
     void showLines(int entry);
+    void selectLine(int entry);
     void showYear();
     void showEntry(int entry);
+    void showEdit(const QString& date, const QString& description);
+    bool mayLeaveEdit();
+    bool save();
     void focusOn(QLineEdit* box);
     void cmbYear_Click();
     void lstHolidays_Click(int entry);
-    void cmdSave_Click();
     void cmdDelete_Click();
     void cmdAddNew_Click();
     void mnuFileNew_Click();
     void mnuFileSave_Click();
+
+    QString shownDate_;  // what the boxes held before anybody typed
+    QString shownDescription_;
 };
 
 /// Opens the window for a new holiday on the date.

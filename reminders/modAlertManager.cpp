@@ -48,18 +48,10 @@ void ListAlerts() {
                             : "Active Alert List: " + std::to_string(AlertList.indexes.size()) + " Alerts";
 }
 
-/// The remembered entry's place in the master list, or -1.
-int SelectedMaster() {
-    const int entry = AlertList.selected;
+/// The entry's place in the master list, or -1.
+int MasterOf(int entry) {
     if (entry < 0 || entry >= static_cast<int>(AlertList.indexes.size())) return -1;
     return AlertList.indexes[static_cast<std::size_t>(entry)];
-}
-
-/// The entry of a line among those listed, or -1.
-int EntryOf(const std::string& line) {
-    for (std::size_t entry = 0; entry < AlertList.indexes.size(); ++entry)
-        if (AlertMasterList[static_cast<std::size_t>(AlertList.indexes[entry])] == line) return static_cast<int>(entry);
-    return -1;
 }
 
 void EraseFromMaster(int index) {
@@ -128,9 +120,8 @@ void LoadAlerts() {
 
 void ParseAlert(int entry) {
     Reporting("ParseAlert", [entry] {
-        if (entry < 0 || entry >= static_cast<int>(AlertList.indexes.size())) return;
-        const std::string& line =
-            AlertMasterList[static_cast<std::size_t>(AlertList.indexes[static_cast<std::size_t>(entry)])];
+        if (MasterOf(entry) < 0) return;
+        const std::string line = AlertLineOfEntry(entry);
         AlertRec alert;
         ParseAlertLine(line, alert);
         AlertList.edit = {line.substr(0, 5), std::to_string(alert.period), alert.message};
@@ -143,6 +134,17 @@ void SelectAlert(int entry) {
     AlertList.selected = entry;
     AddingNewAlert = false;
     ParseAlert(entry);
+}
+
+std::string AlertLineOfEntry(int entry) {
+    const int index = MasterOf(entry);
+    return index < 0 ? "" : AlertMasterList[static_cast<std::size_t>(index)];
+}
+
+int AlertEntryOfLine(const std::string& line) {
+    for (int entry = 0; entry < static_cast<int>(AlertList.indexes.size()); ++entry)
+        if (AlertLineOfEntry(entry) == line) return entry;
+    return -1;
 }
 
 void NewAlert() {
@@ -185,8 +187,8 @@ AlertField SaveAlert(const AlertEdit& typed) {
     }
     if (const AlertField wrong = Check(typed); wrong != AlertField::Saved) return wrong;
     if (!MayTurnIntoLineBreaks(typed.message, "message")) return AlertField::Message;
-    const int selected = AddingNewAlert ? -1 : SelectedMaster();
-    const std::string old = selected < 0 ? "" : AlertMasterList[static_cast<std::size_t>(selected)];
+    const int selected = AddingNewAlert ? -1 : MasterOf(AlertList.selected);
+    const std::string old = AddingNewAlert ? "" : AlertLineOfEntry(AlertList.selected);
     EraseFromMaster(selected);
     InsertInListOrder(AlertMasterList, AlertLineOf({*AlertDateTyped(typed.date),
                                                     static_cast<int>(IntegerValue(typed.period)), typed.message}));
@@ -194,7 +196,7 @@ AlertField SaveAlert(const AlertEdit& typed) {
     const bool adding = AddingNewAlert;
     if (SaveAndReload()) return AlertField::Saved;
     // The write failed: what was typed stays in the window, to be saved again in the place it was meant for.
-    AlertList.selected = adding ? before.selected : EntryOf(old);
+    AlertList.selected = adding ? before.selected : AlertEntryOfLine(old);
     AddingNewAlert = adding || AlertList.selected < 0;
     AlertList.heading = AddingNewAlert ? AddingHeading : before.heading;
     AlertList.date = before.date;
@@ -204,7 +206,7 @@ AlertField SaveAlert(const AlertEdit& typed) {
 
 void DeleteAlert() {
     if (AlertMasterList.empty()) return;
-    const int index = SelectedMaster();
+    const int index = MasterOf(AlertList.selected);
     if (index < 0) return;
     EraseFromMaster(index);
     AlertList.selected = 0;

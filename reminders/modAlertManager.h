@@ -18,6 +18,7 @@ struct AlertEdit {
     std::string date;     // "mm/dd/yy", or as typed
     std::string period;   // digits
     std::string message;  // with its line breaks
+    bool operator==(const AlertEdit&) const = default;
 };
 
 struct AlertListState {
@@ -47,6 +48,11 @@ void ParseAlert(int entry);
 
 /// A click on an entry: it is remembered and edited.
 void SelectAlert(int entry);
+
+/// The line of an entry of the lists, which a save may move; "" for none.
+std::string AlertLineOfEntry(int entry);
+/// The entry of a line among those listed, or -1.
+int AlertEntryOfLine(const std::string& line);
 
 /// Begins a new alert; the date stays.
 void NewAlert();

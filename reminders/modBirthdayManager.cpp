@@ -153,6 +153,11 @@ BirthdayEdit SelectBirthday(int index) {
     return shown;
 }
 
+int BirthdayOfLine(const std::string& line) {
+    const auto found = std::find(BirthdayLine.begin(), BirthdayLine.end(), line);
+    return found == BirthdayLine.end() ? -1 : static_cast<int>(found - BirthdayLine.begin());
+}
+
 bool NamesYear(std::string_view date) {
     int numbers = 0;
     bool inNumber = false;
@@ -207,12 +212,6 @@ bool IsPlain(const std::string& line) {
            line.size() == record.MonthDay.size() + record.Name.size() + record.BirthYear.size() + 5;
 }
 
-/// The birthday of a line, or -1: a reading may have moved it.
-int IndexOf(const std::string& line) {
-    const auto found = std::find(BirthdayLine.begin(), BirthdayLine.end(), line);
-    return found == BirthdayLine.end() ? -1 : static_cast<int>(found - BirthdayLine.begin());
-}
-
 std::string EditedLine() {
     return BirthdayList.edited < 0 ? "" : BirthdayLine[static_cast<std::size_t>(BirthdayList.edited)];
 }
@@ -235,7 +234,7 @@ BirthdayField SaveBirthday(const BirthdayEdit& typed) {
         std::find(BirthdayMasterList.begin(), BirthdayMasterList.end(), line) != BirthdayMasterList.end();
     if (!adding || !there) InsertInListOrder(BirthdayMasterList, line);
     const bool saved = SaveAndReload(!adding && !IsPlain(old));
-    if (!adding) BirthdayList.edited = IndexOf(saved ? line : old);
+    if (!adding) BirthdayList.edited = BirthdayOfLine(saved ? line : old);
     return saved ? BirthdayField::Saved : BirthdayField::Abandoned;
 }
 
@@ -251,7 +250,7 @@ bool DeleteBirthdays(const std::vector<int>& indexes) {
     for (const int index : indexes) EraseLine(BirthdayLine[static_cast<std::size_t>(index)]);
     const std::string edited = EditedLine();
     const bool deleted = SaveAndReload(several);
-    BirthdayList.edited = deleted ? -1 : IndexOf(edited);
+    BirthdayList.edited = deleted ? -1 : BirthdayOfLine(edited);
     return deleted;
 }
 

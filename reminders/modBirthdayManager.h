@@ -31,6 +31,7 @@ struct BirthdayEdit {
     bool rememberAge = true;
     std::optional<int> period = UsualBirthdayPeriod;  // the option button; none for a period that has no button
     std::string age = "Age = NA";
+    bool operator==(const BirthdayEdit&) const = default;
 };
 
 /// Where the window puts the focus after a save.
@@ -61,6 +62,9 @@ std::string CalculateAge(const BirthdayRec& record);
 
 /// Makes the birthday the one being edited and answers what the controls show of it.
 BirthdayEdit SelectBirthday(int index);
+
+/// The birthday of a line, which a save may move; -1 for none.
+int BirthdayOfLine(const std::string& line);
 
 /// True if a date as typed says its year.
 bool NamesYear(std::string_view date);

@@ -73,6 +73,10 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     EXPECT_EQ(IconCaption[12], "Dentist") << "what was not saved is not shown";
     SetDisk({});
     QTest::mouseClick(Find<IconImage>(manager, QStringLiteral("imgIcon(143)")), Qt::LeftButton);
+    dialogs.expect("Icon Has Changed", Answer::Cancel);
+    QTest::keyClick(manager, Qt::Key_Escape);
+    dialogs.expect("Icon Has Changed", Answer::Cancel);
+    ShowIconTag(13);
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), nullptr);
     EXPECT_TRUE(dentist->toolTip() == QStringLiteral("Dr. Müller: teeth") && dentist->picture() == 143);

@@ -126,6 +126,7 @@ TEST_F(ReminderWindows, LeavingABirthdayWithoutAYearForgetsTheAge) {
     EXPECT_EQ(folder.get("Birthdays.dat"), "07/04:07:Ann B:****\r\n");
     for (const char* typed : {"", "typed over"}) {
         window->txt[0]->setText(QString::fromLatin1(typed));
+        dialogs.expect("Birthday Has Changed", Answer::No);
         QTest::mouseClick(window->lstData[1]->viewport(), Qt::LeftButton, {},
                           window->lstData[1]->visualItemRect(window->lstData[1]->item(0)).center());
         EXPECT_EQ(window->txt[0]->text(), QStringLiteral("Ann B"));
@@ -184,11 +185,64 @@ TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
     OpenAlertManagerFor(MakeDate(2026, 12, 1));
     EXPECT_EQ(window->txtMessage->toPlainText(), QStringLiteral("typed")) << "what is being typed stays";
     EXPECT_EQ(window->txtDate->text(), QStringLiteral("12/01/26"));
+    dialogs.expect("Alert Has Changed", Answer::No);
     dialogs.expect("Backup");
     window->menus[QStringLiteral("mnuOptDeleteOldAlerts")]->trigger();
     EXPECT_EQ(folder.get("Alerts.dat"), "46350:0004:Soon\r\n");
     window->menus[QStringLiteral("mnuFileExit")]->trigger();
     EXPECT_EQ(OpenedWindow<frmAlert>(), nullptr);
+}
+
+// What was typed goes only where the answer says so: by a click on another entry, by a new one, by closing.
+TEST_F(ReminderWindows, WhatWasTypedIsAskedAbout) {
+    folder.put("Alerts.dat", "46349:0003:Soon\r\n46350:0004:Later\r\n");
+    folder.put("Birthdays.dat", "01/02:00:Ann:1990\r\n03/04:00:Ben:1991\r\n");
+    folder.put("Holidays/2026Holidays.dat", "07/04/26:Fourth\r\n12/25/26:Christmas\r\n");
+    ReadAlerts();
+    OpenAlertManager(false);
+    auto* alerts = OpenedWindow<frmAlert>();
+    auto* birthdays = ShowWindow<frmBDay>();
+    birthdays->lstData[1]->setCurrentRow(0);
+    auto* holidays = ShowWindow<frmHolidays>();
+    struct Row {
+        Window* window;
+        QListWidget* list;
+        std::function<void(const QString&)> type;
+        std::function<QString()> text;
+        const char* file;
+        const char* overwrite;  // a question that saving asks, too
+    };
+    const Row rows[] = {{alerts, alerts->lstAlerts[1], [&](const QString& t) { alerts->txtMessage->setPlainText(t); },
+                         [&] { return alerts->txtMessage->toPlainText(); }, "Alerts.dat", "over-write this alert?"},
+                        {birthdays, birthdays->lstData[1], [&](const QString& t) { birthdays->txt[0]->setText(t); },
+                         [&] { return birthdays->txt[0]->text(); }, "Birthdays.dat", nullptr},
+                        {holidays, holidays->lstHolidays, [&](const QString& t) { holidays->txtDesc->setText(t); },
+                         [&] { return holidays->txtDesc->text(); }, "Holidays/2026Holidays.dat", nullptr}};
+    for (const Row& row : rows) {
+        SCOPED_TRACE(row.file);
+        const QString second = row.list->item(1)->text();
+        row.type(QStringLiteral("typed"));
+        dialogs.expect("Has Changed", Answer::Cancel);
+        row.list->setCurrentRow(1);
+        EXPECT_EQ(row.text(), QStringLiteral("typed"));
+        EXPECT_EQ(row.list->currentRow(), 0) << "the entry that it belongs to";
+        dialogs.expect("Has Changed", Answer::Cancel);
+        row.window->close();
+        dialogs.expect("Has Changed", Answer::Yes);
+        if (row.overwrite != nullptr) {
+            dialogs.expect(row.overwrite, Answer::Yes);
+            dialogs.expect("Alert List Updated.");
+        }
+        row.list->setCurrentRow(1);
+        EXPECT_NE(folder.get(row.file).find(":typed"), std::string::npos) << folder.get(row.file);
+        EXPECT_EQ(row.list->currentItem()->text(), second) << "the entry that was clicked";
+        EXPECT_NE(row.text(), QStringLiteral("typed"));
+        row.type(QStringLiteral("dropped"));
+        dialogs.expect("Has Changed", Answer::No);
+        if (row.overwrite == nullptr) dialogs.expect("List Saved.");
+        row.window->close();
+        EXPECT_EQ(folder.get(row.file).find("dropped"), std::string::npos);
+    }
 }
 
 TEST_F(ReminderWindows, TheMainWindowShowsWhatIsPending) {
