@@ -13,7 +13,7 @@ HelpPanel::HelpPanel(QWidget* parent) : QWidget(parent) {
     lblHelpSubject =
         Named(new QLabel(QStringLiteral("Help: Select a Topic Below"), this), QStringLiteral("lblHelpSubject"));
     cmbHelp = Named(new QComboBox(this), QStringLiteral("cmbHelp"), QStringLiteral("Help topics"));
-    cmbHelp->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);  // as wide as the panel, whatever its subjects
+    cmbHelp->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     txtHelp = Named(new QPlainTextEdit(this), QStringLiteral("txtHelp"), QStringLiteral("Help text"));
     txtHelp->setReadOnly(true);
     txtHelp->setTabChangesFocus(true);

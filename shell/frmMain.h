@@ -69,7 +69,8 @@ class frmMain : public Window {
   private:
     void buildMenus();
     void buildTopStrip();
-    QComboBox* picker(const QString& name, const QString& spoken, const QStringList& items, int visible);
+    QComboBox* picker(const QString& name, const QString& spoken, const QStringList& items, const QString& longest,
+                      int visible);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
     QWidget* makeRightPanel();
