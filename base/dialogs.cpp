@@ -24,6 +24,10 @@ Answer Ask(const std::string& text, Buttons buttons, const std::string& title) {
     return Current.message(Utf8Of(text), buttons, Utf8Of(title));
 }
 
+bool AskBeforeLoss(const std::string& text, const std::string& title) {
+    return Ask(text, Buttons::YesNoWithCare, title) == Answer::Yes;
+}
+
 bool AskToSave(const std::string& question, const std::string& title, const std::function<bool()>& save) {
     const Answer answer = Ask(question, Buttons::YesNoCancel, title);
     return answer == Answer::Yes ? save() : answer == Answer::No;

@@ -5,7 +5,13 @@
 #include <optional>
 #include <string>
 
-enum class Buttons { Ok, OkCancel, YesNo, YesNoCancel };
+enum class Buttons {
+    Ok,
+    OkCancel,
+    YesNo,
+    YesNoWithCare,  // Yes and No, of which Enter answers No
+    YesNoCancel
+};
 enum class Answer { Ok, Cancel, Yes, No };
 
 /// The title of boxes that have none of their own.
@@ -31,6 +37,9 @@ void ShowUtf8Message(const std::string& utf8);
 
 /// Asks and returns the answer. Closing the box answers Cancel, or No where there is no Cancel.
 Answer Ask(const std::string& text, Buttons buttons, const std::string& title = ProgramTitle);
+
+/// Asks, with Yes and No, before something is done that cannot be undone. True for Yes.
+bool AskBeforeLoss(const std::string& text, const std::string& title = ProgramTitle);
 
 /// The question of a window whose edits would go. Yes: true if `save` answers that they are saved; No: true; Cancel:
 /// false.

@@ -559,9 +559,9 @@ void RemoveSelectedIcon() {
 }
 
 void RemoveAllIcons() {
-    const Answer answer = Ask("Proceeding with this action will remove all icons for the entire month. Continue?",
-                              Buttons::YesNo, "Preparing to remove all Icons");
-    if (answer != Answer::Yes) return;
+    if (!AskBeforeLoss("Proceeding with this action will remove all icons for the entire month. Continue?",
+                       "Preparing to remove all Icons"))
+        return;
     LinesInUse() = {};
     CountInUse() = 0;
     IconPool.clear();

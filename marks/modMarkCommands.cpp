@@ -121,10 +121,10 @@ void ClearMarkFromSelectedDate() {
 
 void DeleteThisYearsMarks() {
     Reporting("mnuEditDeleteMarks_Click", [] {
-        const Answer answer =
-            Ask("Are you sure you want to clear all this year's marks? Note: Holidays and Birthdays are excluded.",
-                Buttons::YesNo, "Preparing to clear the yearly marks");
-        if (answer != Answer::Yes) return;
+        if (!AskBeforeLoss(
+                "Are you sure you want to clear all this year's marks? Note: Holidays and Birthdays are excluded.",
+                "Preparing to clear the yearly marks"))
+            return;
         const std::string told = DeleteDataFile(MarksFile(YearOfSlot(ThisYear)));
         KeepHoverTexts(Marks[ThisYear]);
         TellOfBackup(told);

@@ -94,8 +94,7 @@ void frmNoteList::cmdDelete_Click() {
 }
 
 void frmNoteList::cmdDeleteAll_Click() {
-    if (Ask("You're about to delete all the files in the list. Continue?", Buttons::YesNo,
-            "Deleting All File in the List") == Answer::No)
+    if (!AskBeforeLoss("You're about to delete all the files in the list. Continue?", "Deleting All File in the List"))
         return;
     std::vector<std::string> keys;
     keys.reserve(static_cast<std::size_t>(lst->count()));

@@ -155,9 +155,7 @@ bool CreateNewFUTFile() {
         if (name.empty() || IllegalFileName(name)) return;
         const std::string file = name + TermsExtension;
         const bool exists = FileExists(DataFolder(), file);
-        if (exists && Ask("File already exists. Overwrite?", Buttons::YesNo, "Duplicate Frequent Terms File Exists") ==
-                          Answer::No)
-            return;
+        if (exists && !AskBeforeLoss("File already exists. Overwrite?", "Duplicate Frequent Terms File Exists")) return;
         if (!exists) SaveDataFile(DataPath(file), {});
         CurrentTermsFile = file;
         Terms.file = file;
@@ -256,9 +254,7 @@ void ClearTerms() {
         ShowMessage("There's nothing to delete.");
         return;
     }
-    if (Ask("This will delete all items in the list. Continue?", Buttons::YesNo, "Preparing to Clear List") ==
-        Answer::No)
-        return;
+    if (!AskBeforeLoss("This will delete all items in the list. Continue?", "Preparing to Clear List")) return;
     Terms.listed.clear();
     SaveAndRead();
 }

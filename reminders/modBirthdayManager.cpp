@@ -244,8 +244,8 @@ bool DeleteBirthdays(const std::vector<int>& indexes) {
         return false;
     }
     const bool several = indexes.size() > 1;
-    if (several && Ask("Are you sure you want to delete these multiple items?", Buttons::YesNo,
-                       "Preparing to Delete Multiple Items") != Answer::Yes)
+    if (several &&
+        !AskBeforeLoss("Are you sure you want to delete these multiple items?", "Preparing to Delete Multiple Items"))
         return false;
     for (const int index : indexes) EraseLine(BirthdayLine[static_cast<std::size_t>(index)]);
     const std::string edited = EditedLine();

@@ -17,6 +17,7 @@ QMessageBox::StandardButtons ButtonsOf(Buttons buttons) {
         case Buttons::OkCancel:
             return QMessageBox::Ok | QMessageBox::Cancel;
         case Buttons::YesNo:
+        case Buttons::YesNoWithCare:
             return QMessageBox::Yes | QMessageBox::No;
         case Buttons::YesNoCancel:
             return QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel;
@@ -44,7 +45,8 @@ Answer ShowBox(const std::string& text, Buttons buttons, const std::string& titl
     box.setObjectName(QStringLiteral("MessageBox"));
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse);
-    if (buttons == Buttons::YesNo) box.setEscapeButton(QMessageBox::No);
+    if (buttons == Buttons::YesNo || buttons == Buttons::YesNoWithCare) box.setEscapeButton(QMessageBox::No);
+    if (buttons == Buttons::YesNoWithCare) box.setDefaultButton(QMessageBox::No);
     KeepInFront(box);
     switch (box.exec()) {
         case QMessageBox::Yes:
