@@ -67,19 +67,15 @@ TEST(Pictures, ProgramIconHasEverySizeFromTheTitleBarToTheTaskSwitcher) {
 
 TEST(PictureButton, ShowsItsStateAndIsPressedByKey) {
     PictureButton button(Picture::OpenNotes, QStringLiteral("Open Notes for Selected Date"));
-    EXPECT_EQ(button.look(), Look::Normal);
-    button.setHasContent(true);
-    EXPECT_EQ(button.look(), Look::Exists);
-    button.setLatched(true);
-    EXPECT_EQ(button.look(), Look::Pressed);
-    button.setLatched(false);
-    button.setEnabled(false);
-    EXPECT_EQ(button.look(), Look::Disabled);
-    button.setEnabled(true);
-    EXPECT_TRUE(button.focusPolicy() & Qt::TabFocus);
     QSignalSpy clicks(&button, &QAbstractButton::clicked);
-    QTest::keyPress(&button, Qt::Key_Space);
-    EXPECT_EQ(button.look(), Look::Pressed);
-    QTest::keyRelease(&button, Qt::Key_Space);
-    EXPECT_TRUE(button.look() == Look::Exists && clicks.count() == 1);
+    std::vector<Look> seen{button.look()};
+    const auto after = [&](const auto& change) { change(), seen.push_back(button.look()); };
+    after([&] { button.setHasContent(true); });
+    after([&] { button.setLatched(true); });
+    after([&] { button.setLatched(false), button.setEnabled(false); });
+    after([&] { button.setEnabled(true), QTest::keyPress(&button, Qt::Key_Space); });
+    after([&] { QTest::keyRelease(&button, Qt::Key_Space); });
+    EXPECT_EQ(seen,
+              (std::vector{Look::Normal, Look::Exists, Look::Pressed, Look::Disabled, Look::Pressed, Look::Exists}));
+    EXPECT_TRUE((button.focusPolicy() & Qt::TabFocus) && clicks.count() == 1);
 }
