@@ -31,7 +31,6 @@ TEST_F(HelpWindow, ShowsTheTopicOfThePanel) {
     EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("second\nline"));
     QTest::mouseClick(panel.imgHelp, Qt::LeftButton);
     auto* window = OpenedWindow<frmHelp>();
-    ASSERT_NE(window, nullptr);
     EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("second\nline"));
     window->lstHelp->setCurrentRow(2);
     EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("third"));

@@ -16,7 +16,6 @@ struct NoteWindows : WindowTest {
         folder.put("2026/Notes.dat", Year);
         folder.put("2041/Notes.dat", "03/01/41:020500:far away\r\n");
     }
-    ~NoteWindows() override { NoteEditor = {}; }
     static QStringList shown(const QListWidget* list) {
         QStringList rows;
         for (int row = 0; row < list->count(); ++row) rows << list->item(row)->text();
@@ -78,27 +77,23 @@ TEST_F(NoteWindows, DeleteWhatIsListedAndNothingElse) {
 
 TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     auto* window = ShowWindow<frmSearch>();
-    const auto search = [&](const char* phrase, const char* report) {
-        window->cmbPhrase->setEditText(QString::fromLatin1(phrase));
+    folder.put("2026/Notes.dat", Year + "04/01/26:030300:why?\r\n");
+    for (const auto& [phrase, report] : {std::pair{"", "No phrase has been entered."},
+                                         {"plumber", "Search Phrase was not found."},
+                                         {"\u4E2D", "Search Phrase was not found."},  // nor does "?" stand for it
+                                         {"vet", "Search Phrase appears on 1 date"},
+                                         {"Sam", "Search Phrase appears on 1 date"},
+                                         {"lunch", "Search Phrase appears on 2 dates."},
+                                         {"lunch", "Search Phrase appears on 2 dates."}}) {
+        window->cmbPhrase->setEditText(QString::fromUtf8(phrase));
         dialogs.expect(report);
         QTest::keyClick(window->cmbPhrase, Qt::Key_Return);
-    };
-    search("", "No phrase has been entered.");
-    search("plumber", "Search Phrase was not found.");
-    folder.put("2026/Notes.dat", Year + "04/01/26:030300:why?\r\n");
-    window->cmbPhrase->setEditText(QStringLiteral("\u4E2D"));  // no file holds it, nor does "?" stand for it
-    dialogs.expect("Search Phrase was not found.");
-    window->cmdSearch->click();
-    search("vet", "Search Phrase appears on 1 date");
-    search("Sam", "Search Phrase appears on 1 date");
-    search("lunch", "Search Phrase appears on 2 dates.");
-    search("lunch", "Search Phrase appears on 2 dates.");
+    }
     EXPECT_EQ(window->cmbPhrase->count(), 4);
     EXPECT_EQ(shown(window->lstResults), rows("03/04/26 03/09/26"));
     window->lstResults->setCurrentRow(1);
     window->cmdOpen->click();
     auto* editor = OpenedWindow<frmNotes>();
-    ASSERT_NE(editor, nullptr);
     EXPECT_EQ(editor->txtNotes->textCursor().selectedText(), QStringLiteral("LUNCH"));
     EXPECT_TRUE(editor->item(QStringLiteral("mnuEdit"))->isEnabled());
     window->close();

@@ -12,19 +12,19 @@ struct EditorTest : WindowTest {
     EditorTest() {
         InstallNoteEditor();
         Calendar.yearOnDisplay = 2026;
-        folder.put("Work.fut", "budget\r\niPhone\r\nNew York");
+        folder.put(
+            "Work.fut",
+            "zebra two\r\nagenda\r\nbudget\r\niPad\r\niPhone\r\nNew Jersey\r\nNew York\r\nZebra one\r\n\xC4rzte");
         Preferences.termsFile = CurrentTermsFile = "Work.fut";
         AutoStartPosition = 0;
     }
-    ~EditorTest() override { NoteEditor = {}; }
 
-    frmNotes* open(int month = 10, int day = 5) {
-        SelectDate(MakeDate(2026, month, day));
+    void open() {
+        SelectDate(MakeDate(2026, 10, 5));
         DisplayThisNote();
         window = OpenedWindow<frmNotes>();
         box = window->txtNotes;
-        EXPECT_TRUE(QTest::qWaitForWindowActive(window));
-        return window;
+        ASSERT_TRUE(QTest::qWaitForWindowActive(window));
     }
     void type(const char* keys) const { QTest::keyClicks(box, QString::fromLatin1(keys)); }
     void press(Qt::Key key, Qt::KeyboardModifiers held = Qt::NoModifier) const { QTest::keyClick(box, key, held); }
@@ -41,24 +41,49 @@ struct EditorTest : WindowTest {
     NoteTextBox* box = nullptr;
 };
 
-TEST_F(EditorTest, OffersTakesAndRefusesACompletion) {
+TEST_F(EditorTest, OffersTheFirstTermThatFitsInTheCaseThatIsTyped) {
+    using Row = std::tuple<std::string, const char*, int, const char*>;  // the caret stands at "|"
+    open();
+    for (auto& [text, keys, startPosition, expected] :
+         {// in the case that is typed
+          Row{"|", "ne", 0, "ne[w jersey]"}, Row{"|", "Ne", 0, "Ne[w Jersey]"}, Row{"|", "NE", 0, "NE[W JERSEY]"},
+          Row{"|", "iPh", 0, "iPh[one]"}, Row{"|", "nEw", 0, "New[ Jersey]"},
+          // in the order of the file
+          Row{"|", "ze", 0, "ze[bra two]"},
+          // from the start position on, while something fits
+          Row{"|", "b", 0, "b[udget]"}, Row{"|", "bu", 2, "bu|"}, Row{"|", "bud", 2, "bud[get]"},
+          Row{"|", "budget", 0, "budget|"}, Row{"|", "bux", 0, "bux|"}, Row{"|", "bux\bd", 0, "bud[get]"},
+          // where a word begins and none goes on
+          Row{"a |", "bu", 0, "a bu[dget]"}, Row{"a\n|", "bu", 0, "a\nbu[dget]"}, Row{"(|", "bu", 0, "(bu|"},
+          Row{"b|", "u", 0, "bu|"}, Row{"|dget", "bu", 0, "bu|dget"}, Row{"| x", "bu", 0, "bu[dget] x"},
+          Row{"|\nx", "bu", 0, "bu[dget]\nx"},
+          // over a blank, not over a line break
+          Row{"|", "new ", 0, "new [jersey]"}, Row{"|", "new y", 0, "new y[ork]"}, Row{"|", "new b", 0, "new b[udget]"},
+          Row{"|", "new\b\ry", 0, "new\ny|"}}) {
+        const auto caret = text.find('|');
+        box->showNote(text.substr(0, caret) + text.substr(caret + 1));
+        box->setCaret(static_cast<int>(caret));
+        AutoStartPosition = startPosition;
+        type(keys);
+        EXPECT_EQ(shown(), expected) << text << keys;
+    }
+}
+
+TEST_F(EditorTest, TakesAndRefusesACompletion) {
     using Row = std::tuple<const char*, Qt::Key, Qt::KeyboardModifiers, const char*>;
     open();
     for (const auto& [typed, key, held, expected] :
-         {Row{"ne", Qt::Key_unknown, Qt::NoModifier, "ne[w york]"},
-          Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New York|"},
-          Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW YORK|"},
-          Row{"iP", Qt::Key_Insert, Qt::NoModifier, "iPhone|"}, Row{"b", Qt::Key_Return, Qt::NoModifier, "budget|"},
+         {Row{"Ne", Qt::Key_Right, Qt::NoModifier, "New Jersey|"},
+          Row{"NE", Qt::Key_Right, Qt::ShiftModifier, "NEW JERSEY|"},
+          Row{"iPh", Qt::Key_Insert, Qt::NoModifier, "iPhone|"}, Row{"b", Qt::Key_Return, Qt::NoModifier, "budget|"},
           Row{"b", Qt::Key_Space, Qt::ShiftModifier, "budget |"}, Row{"b", Qt::Key_Space, Qt::NoModifier, "b |"},
           Row{"bu", Qt::Key_Backspace, Qt::NoModifier, "bu|"}, Row{"bu", Qt::Key_Delete, Qt::NoModifier, "bu|"},
-          Row{"bu", Qt::Key_Z, Qt::ControlModifier, "bu|"}, Row{"nEw", Qt::Key_unknown, Qt::NoModifier, "New[ York]"},
-          Row{"nEw", Qt::Key_Z, Qt::ControlModifier, "nEw|"}, Row{"nEw", Qt::Key_X, Qt::NoModifier, "nEwx|"},
-          Row{"bx", Qt::Key_Return, Qt::NoModifier, "bx\n|"}, Row{"bx", Qt::Key_Return, Qt::ShiftModifier, "bx\n|"},
-          Row{"budge", Qt::Key_T, Qt::NoModifier, "budget|"},
-          Row{"new y", Qt::Key_Right, Qt::NoModifier, "new york|"}}) {
+          Row{"bu", Qt::Key_Z, Qt::ControlModifier, "bu|"}, Row{"nEw", Qt::Key_Z, Qt::ControlModifier, "nEw|"},
+          Row{"nEw", Qt::Key_X, Qt::NoModifier, "nEwx|"}, Row{"bx", Qt::Key_Return, Qt::NoModifier, "bx\n|"},
+          Row{"bx", Qt::Key_Return, Qt::ShiftModifier, "bx\n|"}}) {
         box->showNote("");
         type(typed);
-        if (key != Qt::Key_unknown) press(key, held);
+        press(key, held);
         EXPECT_EQ(shown(), expected) << typed;
     }
 }
@@ -76,6 +101,9 @@ TEST_F(EditorTest, NeverLosesOrDoublesACharacterHoweverTheyCome) {
         event.setCommitString(QString::fromUtf16(commit));
         QApplication::sendEvent(box, &event);
     };
+    compose(u"", u"\u00E4R");
+    EXPECT_EQ(shown(), "\u00C4r[zte]");
+    box->showNote("");
     compose(u"", u"b");
     EXPECT_EQ(shown(), "b[udget]");
     compose(u"u", u"");  // composing replaces the completion, and completes nothing yet
@@ -99,13 +127,10 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     std::string all = "\r\n";
     for (int code = 1; code < 256; ++code)
         if (code != '\r' && code != '\n' && code != 0xD2 && code != 0xD5) all += static_cast<char>(code);
-    box->showNote("");
     box->append(all);
-    EXPECT_TRUE(NotesChanged);
     dialogs.expect("Notes Saved");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_EQ(file(), "10/05/26:090101:" + EncodedLineBreaks(all) + "\r\n");
-    EXPECT_FALSE(NotesChanged);
     type("\b");
     EXPECT_TRUE(NotesChanged);
     press(Qt::Key_Z, Qt::ControlModifier);
@@ -125,27 +150,18 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
 }
 
 TEST_F(EditorTest, ClosesThroughItsPrompt) {
-    const auto change = [&](Answer answer) {
-        open();
+    for (const Answer answer : {Answer::Yes, Answer::Cancel, Answer::No}) {
+        if (!NotesWindowOpen) open();
         type("x");
+        CalendarView = 0;
         dialogs.expect("Text has been changed. Do you want to save the changes?", answer);
-    };
-    change(Answer::Cancel);
-    CalendarView = 0;
-    press(Qt::Key_Escape);
-    EXPECT_TRUE(OpenedWindow<frmNotes>() == window && CalendarView == 0);
-    SelectDate(MakeDate(2026, 3, 1));
-    dialogs.expect("Text has been changed", Answer::Cancel);
-    DisplayThisNote();
-    EXPECT_EQ(window->windowTitle(), QStringLiteral("Notes for October 05, 2026"));
-    dialogs.expect("Text has been changed", Answer::Yes);
-    dialogs.expect("Notes Saved");
-    press(Qt::Key_Escape);
-    EXPECT_FALSE(OpenedWindow<frmNotes>() || NotesWindowOpen);
-    EXPECT_EQ(CalendarView, 12);
-    EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
-    change(Answer::No);
-    EXPECT_TRUE(window->close());
+        if (answer == Answer::Yes) dialogs.expect("Notes Saved");
+        press(Qt::Key_Escape);
+        const bool stays = answer == Answer::Cancel;
+        EXPECT_EQ(OpenedWindow<frmNotes>(), stays ? window : nullptr);
+        EXPECT_EQ(NotesWindowOpen, stays);
+        EXPECT_EQ(CalendarView, stays ? 0 : 12);
+    }
     EXPECT_EQ(file(), "10/05/26:090101:x\r\n");
 }
 
@@ -154,17 +170,12 @@ TEST_F(EditorTest, FindsThePhraseAgainAndAgain) {
     SearchActive = true;
     SearchPhrase = "lunch";
     open();
-    auto* again = window->item(QStringLiteral("mnuEditSearchAgain"));
-    EXPECT_EQ(shown(), "[Lunch]\nlunch LUNCH");
-    again->trigger();
-    again->trigger();
-    EXPECT_EQ(shown(), "Lunch\nlunch [LUNCH]");
-    dialogs.expect("No more occurences.");
-    again->trigger();
+    for (const char* found : {"[Lunch]\nlunch LUNCH", "Lunch\n[lunch] LUNCH", "Lunch\nlunch [LUNCH]"}) {
+        EXPECT_EQ(shown(), found);
+        if (shown().ends_with("]")) dialogs.expect("No more occurences.");
+        window->item(QStringLiteral("mnuEditSearchAgain"))->trigger();
+    }
     EXPECT_EQ(shown(), "|Lunch\nlunch LUNCH");
-    SearchActive = false;
-    open(10, 6);
-    EXPECT_FALSE(window->item(QStringLiteral("mnuEdit"))->isEnabled());
 }
 
 TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {

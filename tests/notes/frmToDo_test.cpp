@@ -39,20 +39,16 @@ TEST_F(ToDoWindow, SavesWhatIsShownAndThePanelFollows) {
     EXPECT_TRUE(folder.get("To Do.dat").starts_with("\xF3\r\n\xF3two\r\n\xF5\r\n"));
     EXPECT_EQ(panel.lblToDo[1]->text(), QString());
     EXPECT_EQ(panel.imgChkBox[2]->picture(), Picture::Checked);
-    EXPECT_FALSE(window->item(QStringLiteral("mnuFileSaveAs"))->isEnabled());
     EXPECT_FALSE(panel.lstOtherToDo->isVisible());
 }
 
 TEST_F(ToDoWindow, KeysMoveBetweenRowsAndColoursTell) {
     EXPECT_EQ(QApplication::focusWidget(), window->txt[0]);
     EXPECT_EQ(colourOf(0), QColor(Qt::cyan));
-    struct Row {
-        Qt::Key key;
-        std::size_t row;
-    };
-    for (const Row& row : {Row{Qt::Key_Up, 0}, Row{Qt::Key_Down, 1}, Row{Qt::Key_Return, 2}, Row{Qt::Key_Up, 1}}) {
-        QTest::keyClick(QApplication::focusWidget(), row.key);
-        EXPECT_EQ(QApplication::focusWidget(), window->txt[row.row]);
+    using Row = std::pair<Qt::Key, std::size_t>;
+    for (const auto& [key, row] : {Row{Qt::Key_Up, 0}, {Qt::Key_Down, 1}, {Qt::Key_Return, 2}, {Qt::Key_Up, 1}}) {
+        QTest::keyClick(QApplication::focusWidget(), key);
+        EXPECT_EQ(QApplication::focusWidget(), window->txt[row]);
     }
     window->txt[9]->setFocus();
     QTest::keyClick(window->txt[9], Qt::Key_Enter);

@@ -64,12 +64,12 @@ TEST(Help, InstalledTopicsHaveTitlesAndTexts) {
     const TemporaryFolder folder;
     SetDataFolder(TASMORO_DATA);
     ReadHelpTopics();
-    const std::set<std::string> titles(HelpTitles.begin(), HelpTitles.end());
-    EXPECT_EQ(titles.size(), HelpTitles.size()) << "two topics have the same title";
+    std::set<std::string> titles;
     for (std::size_t i = 0; i < HelpTitles.size(); ++i) {
-        EXPECT_EQ(HelpTitles[i].find_first_of("\r\n"), std::string::npos)
-            << "no colon ends the title " << HelpTitles[i];
-        EXPECT_GT(HelpTexts[i].size(), 60U) << HelpTitles[i];
-        EXPECT_EQ(Replaced(HelpTexts[i], CrLf, "").find_first_of("\r\n"), std::string::npos) << HelpTitles[i];
+        SCOPED_TRACE(HelpTitles[i]);
+        EXPECT_TRUE(titles.insert(HelpTitles[i]).second) << "two topics have the same title";
+        EXPECT_EQ(HelpTitles[i].find_first_of("\r\n"), std::string::npos) << "no colon ends the title";
+        EXPECT_GT(HelpTexts[i].size(), 60U);
+        EXPECT_EQ(Replaced(HelpTexts[i], CrLf, "").find_first_of("\r\n"), std::string::npos);
     }
 }

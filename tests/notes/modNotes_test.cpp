@@ -26,13 +26,19 @@ struct NotesTest : PlannerTest {
         SetDisk({});
     }
 
-    void write(int month, int day, const std::string& text, int year = 2026) {
+    /// The text that is shown for the date.
+    const std::string& open(int month, int day, int year = 2026) {
         SelectDate(MakeDate(year, month, day));
         DisplayThisNote();
+        return typed;
+    }
+    void write(int month, int day, const std::string& text, int year = 2026) {
+        open(month, day, year);
         typed = text;
         NotesChanged = true;
         dialogs.expect("Notes Saved");
         EXPECT_TRUE(SaveOpenNote());
+        EXPECT_FALSE(NotesChanged);
     }
     std::string file(int year = 2026) { return folder.get(std::to_string(year) + "/Notes.dat"); }
 
@@ -47,10 +53,7 @@ TEST_F(NotesTest, AreWrittenInDateOrderEachInOneLine) {
     EXPECT_EQ(file(),
               "02/07/26:010600:an earlier one\r\n10/05/26:090101:three\xD5\xD2lines\xD5\xD2of it\r\n"
               "12/31/26:110404:a colon: kept\r\n");
-    SelectDate(MakeDate(2026, 10, 5));
-    DisplayThisNote();
-    EXPECT_EQ(typed, "three\r\nlines\r\nof it");
-    EXPECT_EQ(shownCaption, "Notes for October 05, 2026");
+    EXPECT_EQ(open(10, 5), "three\r\nlines\r\nof it");
     EXPECT_TRUE(NoteFlags(9, 1, 1) && HasNote(MakeDate(2026, 2, 7)) && !HasNote(MakeDate(2026, 2, 8)));
     EXPECT_EQ(CurrentNote, 1);
     write(10, 5, "  ");
@@ -62,12 +65,11 @@ TEST_F(NotesTest, OfNextYearKeepToTheirOwnFile) {
     SpansNextYear = true;
     write(1, 3, "next year", 2027);
     write(12, 30, "this year");
-    EXPECT_EQ(file(2027), "01/03/27:000001:next year\r\n");
-    EXPECT_EQ(file(2026), "12/30/26:110304:this year\r\n");
     EXPECT_TRUE(NextNoteFlags(0, 0, 1) && lstNotes2.size() == 1);
     write(5, 1, "a year in neither slot", 2031);
-    EXPECT_EQ(file(2031), "05/01/31:040400:a year in neither slot\r\n");
     EXPECT_EQ(YearOfSlot(ThisYear), 2031);
+    EXPECT_EQ(file(2026) + file(2027) + file(2031),
+              "12/30/26:110304:this year\r\n01/03/27:000001:next year\r\n05/01/31:040400:a year in neither slot\r\n");
 }
 
 TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
@@ -75,9 +77,7 @@ TEST_F(NotesTest, TwoLinesOfOneDateSurviveAndAreShownTogether) {
     folder.put("2026/notes.dat", lines);
     write(1, 1, "x");
     EXPECT_EQ(folder.get("2026/notes.dat"), "01/01/26:000400:x\r\n" + lines);
-    SelectDate(MakeDate(2026, 3, 4));
-    DisplayThisNote();
-    EXPECT_EQ(typed, "first\r\nsecond");
+    EXPECT_EQ(open(3, 4), "first\r\nsecond");
     write(3, 4, "one now");
     EXPECT_EQ(folder.get("2026/notes.dat"), "01/01/26:000400:x\r\n03/04/26:020300:one now\r\n");
 }
@@ -93,8 +93,7 @@ TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
         return NoteCount();
     };
     const auto save = [&] {
-        SelectDate(MakeDate(2026, 3, 4));
-        DisplayThisNote();
+        open(3, 4);
         dialogs.expect("Backup");
         return SaveOpenNote();
     };
@@ -106,22 +105,17 @@ TEST_F(NotesTest, BadLinesAreReportedOnceAndKeptInBackup) {
                read, save);
 }
 
-TEST_F(NotesTest, MarkNoDayForKeysThatAreNoDateOfTheYear) {
-    const std::string lines = "02/30/26:010100:a\r\n03/04/25:020300:b\r\nxx/04/26:020300:c\r\n";
-    folder.put("2026/Notes.dat", lines);
+TEST_F(NotesTest, MarkTheDayOfTheirDateWhateverTheCellAndNoneForWhatIsNoDate) {
+    folder.put("2026/Notes.dat",
+               "02/30/26:010100:a\r\n03/04/25:020300:b\r\nxx/04/26:020300:c\r\n03/04/26:000000:d\r\n");
     ReadThisYearsNotes();
-    ForEachCell([](Cell cell) { EXPECT_FALSE(NoteFlags[cell]); });
-    EXPECT_EQ(NoteCount(), 3);
-    folder.put("2026/Notes.dat", "03/04/26:000000:in the wrong cell\r\n");
-    ReadThisYearsNotes();
-    EXPECT_TRUE(NoteFlags(2, 3, 0));
-    EXPECT_FALSE(NoteFlags(0, 0, 0));
+    ForEachCell([](Cell cell) { EXPECT_EQ(NoteFlags[cell], cell == CellOf(MakeDate(2026, 3, 4))); });
+    EXPECT_EQ(NoteCount(), 4);
 }
 
 TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     write(3, 4, "saved");
-    SelectDate(MakeDate(2026, 3, 4));
-    DisplayThisNote();
+    open(3, 4);
     NotesChanged = true;
     typed = "\xD2tto";
     dialogs.expect("turn", Answer::No);
@@ -129,18 +123,16 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     refuses = true;
     EXPECT_FALSE(SaveOpenNote());
     refuses = false;
-    typed = "the disk is full";
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    dialogs.expect("turn", Answer::Yes);
     dialogs.expect("SaveThisYearsNotes");
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
     SetDisk({});
-    typed = "\xD2tto";
     dialogs.expect("turn", Answer::Yes);
     dialogs.expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
-    EXPECT_FALSE(NotesChanged);
 }
 
 TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
@@ -156,41 +148,32 @@ TEST_F(NotesTest, AreDeletedByDateAndOnlyThose) {
 }
 
 TEST_F(NotesTest, OpenOnlyWhenTheOpenEditorMayCloseAndAreStoredUnderTheDateItShows) {
-    SelectDate(MakeDate(2026, 3, 4));
-    DisplayThisNote();
+    open(3, 4);
     typed = "of March";
     stays = true;
-    SelectDate(MakeDate(2026, 5, 1));  // another day while the editor is open
-    DisplayThisNote();
+    open(5, 1);  // another day while the editor is open
     EXPECT_EQ(shownCaption, "Notes for March 04, 2026");
     dialogs.expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
     EXPECT_EQ(file(), "03/04/26:020300:of March\r\n");
     stays = false;
-    DisplayThisNote();
-    EXPECT_EQ(shownCaption + typed, "Notes for May 01, 2026");
+    EXPECT_EQ(open(5, 1), "");
     EXPECT_EQ(CurrentNote, -1);
 }
 
 TEST_F(NotesTest, AreAskedAboutBeforeTheViewChanges) {
     write(3, 4, "a");
     AskAboutOpenNote(false);  // nothing has changed: no question
-    const auto changed = [&](Answer answer) {
+    typed = "\xD5";
+    for (const Answer answer : {Answer::Cancel, Answer::Yes, Answer::No}) {
         NotesChanged = true;
         SaveCancelled = false;
         dialogs.expect("The Notes have been changed", answer);
-    };
-    changed(Answer::Cancel);
-    AskAboutOpenNote(false);
-    EXPECT_TRUE(SaveCancelled && NotesChanged && NotesWindowOpen);
-    changed(Answer::Yes);
-    typed = "\xD5";
-    dialogs.expect("turn", Answer::No);
-    AskAboutOpenNote(true);
-    EXPECT_TRUE(SaveCancelled);
-    changed(Answer::No);
-    AskAboutOpenNote(false);
-    EXPECT_FALSE(SaveCancelled || NotesChanged || NotesWindowOpen);
+        if (answer == Answer::Yes) dialogs.expect("turn", Answer::No);
+        AskAboutOpenNote(answer == Answer::Yes);
+        const bool kept = answer != Answer::No;
+        EXPECT_TRUE(SaveCancelled == kept && NotesChanged == kept && NotesWindowOpen == kept);
+    }
     EXPECT_EQ(file(), "03/04/26:020300:a\r\n");
 }
 }  // namespace
