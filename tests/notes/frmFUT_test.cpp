@@ -30,18 +30,15 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     window->cmdOpt[0]->click();
     auto* add = OpenedWindow<frmAddFUT>();
     add->txtAddFUT->setPlainText(QStringLiteral("\u4E2D"));
-    dialogs.expect("\u4E2D");
-    add->cmdSave->click();
+    click(add->cmdSave, "\u4E2D");
     add->txtAddFUT->setPlainText(QStringLiteral("plumber\n electrician "));
     select(1);
     add->cmdSave->click();
     EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nelectrician\r\nplumber\r\nvet");
-    dialogs.expect("Nothing selected to edit.");  // another term stands in the row that was selected
-    window->cmdOpt[1]->click();
+    click(window->cmdOpt[1], "Nothing selected to edit.");  // another term stands in the row that was selected
     select(3);
     ShowTermsFiles();
-    dialogs.expect("Nothing selected to remove.");  // while the terms cannot be seen
-    window->cmdOpt[3]->click();
+    click(window->cmdOpt[3], "Nothing selected to remove.");  // while the terms cannot be seen
     ChooseTermsFile(0);
     select(3);
     window->cmdOpt[1]->click();
@@ -49,8 +46,7 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
     edit->txtEditFUT->setText(QStringLiteral("animal\ndoctor"));
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    dialogs.expect("SaveFrequentlyUsedTerms");
-    edit->cmdSave->click();
+    click(edit->cmdSave, "SaveFrequentlyUsedTerms");
     SetDisk({});
     EXPECT_EQ(OpenedWindow<frmEditFUT>(), edit);  // what was typed is still there
     edit->cmdSave->click();

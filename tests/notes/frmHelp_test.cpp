@@ -22,33 +22,25 @@ struct HelpWindow : WindowTest {
 };
 }  // namespace
 
-TEST_F(HelpWindow, ShowsTheTopicOfThePanel) {
-    EXPECT_EQ(panel.cmbHelp->count(), 0);
-    read("*One:\r\nfirst\r\n*Two:\r\nsecond\r\nline\r\n*Three:\r\nthird");
+TEST_F(HelpWindow, ShowsTheTopicOfThePanelAndFindsPhrases) {
+    read("*One:\r\nfirst\r\n*Two:\r\n1\r\n2\r\n3 Calendar VIEW\r\ncalendar view\r\n*Three:\r\nthird");
     EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("first"));
     panel.cmbHelp->setCurrentIndex(1);
     Q_EMIT panel.cmbHelp->activated(1);
-    EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("second\nline"));
+    EXPECT_EQ(panel.txtHelp->toPlainText(), QStringLiteral("1\n2\n3 Calendar VIEW\ncalendar view"));
     QTest::mouseClick(panel.imgHelp, Qt::LeftButton);
     auto* window = OpenedWindow<frmHelp>();
-    EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("second\nline"));
+    EXPECT_EQ(window->txtHelp->toPlainText(), panel.txtHelp->toPlainText());
     window->lstHelp->setCurrentRow(2);
     EXPECT_EQ(window->txtHelp->toPlainText(), QStringLiteral("third"));
     OpenHelp();
     EXPECT_EQ(window->lstHelp->count(), 3);
-}
-
-TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
-    read("*One:\r\na\r\n*Two:\r\n1\r\n2\r\n3 Calendar VIEW\r\ncalendar view\r\n");
-    OpenHelp();
-    auto* window = OpenedWindow<frmHelp>();
     auto* const again = window->cmdSearch[1];
     EXPECT_FALSE(again->isEnabled());
     for (const auto& [phrase, told] :
          {std::pair{"", "Nothing to search for."}, {"absent", "Search Phrase not Found"}}) {
         window->txtSearch->setText(QLatin1String(phrase));
-        dialogs.expect(told);
-        window->cmdSearch[0]->click();
+        click(window->cmdSearch[0], told);
     }
     window->txtSearch->setText(QStringLiteral("calendar view"));
     for (int times = 0; times < 2; ++times) {
@@ -57,8 +49,7 @@ TEST_F(HelpWindow, FindsAndSelectsThePhrase) {
         EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("Calendar VIEW"));
         QTest::keyClick(again, Qt::Key_Return);
         EXPECT_EQ(window->txtHelp->textCursor().selectedText(), QStringLiteral("calendar view"));
-        dialogs.expect("End of Search");
-        again->click();
+        click(again, "End of Search");
         EXPECT_FALSE(again->isEnabled());
     }
     dialogs.expect("null search");

@@ -16,24 +16,24 @@ struct NoteWindows : WindowTest {
         folder.put("2026/Notes.dat", Year);
         folder.put("2041/Notes.dat", "03/01/41:020500:far away\r\n");
     }
-    static QStringList shown(const QListWidget* list) {
-        QStringList rows;
-        for (int row = 0; row < list->count(); ++row) rows << list->item(row)->text();
+    /// The entries of the list, each with a blank before it.
+    static std::string shown(const QListWidget* list) {
+        std::string rows;
+        for (int row = 0; row < list->count(); ++row) rows += " " + list->item(row)->text().toStdString();
         return rows;
     }
-    static QStringList rows(const char* text) { return QString::fromLatin1(text).split(u' ', Qt::SkipEmptyParts); }
     std::string file() const { return folder.get("2026/Notes.dat"); }
 };
 
 TEST_F(NoteWindows, ListAYearAMonthAndAYearTyped) {
     auto* window = ShowWindow<frmNoteList>();
-    EXPECT_EQ(shown(window->lst), rows("01/08/26 03/04/26 03/09/26"));
+    EXPECT_EQ(shown(window->lst), " 01/08/26 03/04/26 03/09/26");
     window->cmbMonth->setCurrentText(QStringLiteral("March"));
     window->cmdLoad->click();
-    EXPECT_EQ(shown(window->lst), rows("03/04/26 03/09/26"));
+    EXPECT_EQ(shown(window->lst), " 03/04/26 03/09/26");
     window->cmbYear->setEditText(QStringLiteral("2041"));
     QTest::keyClick(window->cmbYear, Qt::Key_Return);
-    EXPECT_EQ(shown(window->lst), rows("03/01/41"));
+    EXPECT_EQ(shown(window->lst), " 03/01/41");
     window->lst->setCurrentRow(0);
     window->cmdOpen->click();
     EXPECT_EQ(OpenedWindow<frmNotes>()->txtNotes->toPlainText(), QStringLiteral("far away"));
@@ -41,11 +41,9 @@ TEST_F(NoteWindows, ListAYearAMonthAndAYearTyped) {
     window->cmdLoad->click();
     EXPECT_TRUE(window->cmbYear->currentText() == QStringLiteral("2009") && window->lst->count() == 0);
     window->cmbYear->setEditText(QStringLiteral("no year"));
-    dialogs.expect("PopulateListBoxes");
-    window->cmdLoad->click();
+    click(window->cmdLoad, "PopulateListBoxes");
     for (auto* button : {window->cmdOpen, window->cmdDelete}) {
-        dialogs.expect("Nothing has been selected.");
-        button->click();
+        click(button, "Nothing has been selected.");
     }
 }
 
@@ -54,8 +52,7 @@ TEST_F(NoteWindows, DeleteWhatIsListedAndNothingElse) {
     window->cmbMonth->setCurrentText(QStringLiteral("March"));
     window->cmdLoad->click();
     window->lst->setCurrentRow(1);
-    dialogs.expect("Notes Saved");
-    window->cmdDelete->click();
+    click(window->cmdDelete, "Notes Saved");
     EXPECT_EQ(file(), Year.substr(0, Year.find("03/09")));
     // A note that is open keeps its unsaved text through the prompt, and lands under its own date.
     SelectDate(MakeDate(2026, 1, 8));
@@ -63,14 +60,11 @@ TEST_F(NoteWindows, DeleteWhatIsListedAndNothingElse) {
     QTest::keyClicks(OpenedWindow<frmNotes>()->txtNotes, QStringLiteral("! "));
     dialogs.expect("You're about to delete all the files in the list. Continue?", Answer::No);
     window->cmdDeleteAll->click();
-    dialogs.expect("You're about to delete", Answer::Yes);
-    dialogs.expect("Text has been changed", Answer::Cancel);
+    dialogs.expect("You're about to delete", Answer::Yes).expect("Text has been changed", Answer::Cancel);
     window->cmdDeleteAll->click();
     EXPECT_EQ(file(), Year.substr(0, Year.find("03/09")));
-    dialogs.expect("You're about to delete", Answer::Yes);
-    dialogs.expect("Text has been changed", Answer::Yes);
-    dialogs.expect("Notes Saved");
-    dialogs.expect("Notes Saved");
+    dialogs.expect("You're about to delete", Answer::Yes).expect("Text has been changed", Answer::Yes);
+    dialogs.expect("Notes Saved").expect("Notes Saved");
     window->cmdDeleteAll->click();
     EXPECT_EQ(file(), "01/08/26:000401:! Vet\r\n");
 }
@@ -90,7 +84,7 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
         QTest::keyClick(window->cmbPhrase, Qt::Key_Return);
     }
     EXPECT_EQ(window->cmbPhrase->count(), 4);
-    EXPECT_EQ(shown(window->lstResults), rows("03/04/26 03/09/26"));
+    EXPECT_EQ(shown(window->lstResults), " 03/04/26 03/09/26");
     window->lstResults->setCurrentRow(1);
     window->cmdOpen->click();
     auto* editor = OpenedWindow<frmNotes>();

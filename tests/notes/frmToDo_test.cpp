@@ -70,8 +70,7 @@ TEST_F(ToDoWindow, ClosingLosesNothing) {
     window->txt[2]->setText(QString::fromUtf8("\u041F\u0438\u0441\u044C\u043C\u043E"));
     dialogs.expect("has been changed", Answer::Cancel);
     EXPECT_FALSE(window->close());
-    dialogs.expect("has been changed", Answer::Yes);
-    dialogs.expect("cannot be saved");
+    dialogs.expect("has been changed", Answer::Yes).expect("cannot be saved");
     EXPECT_FALSE(window->close()) << "what cannot be saved stays in its box";
     clickMenu("mnuOptMoveDown");
     EXPECT_EQ(window->txt[3]->text(), QString::fromUtf8("\u041F\u0438\u0441\u044C\u043C\u043E"));
@@ -79,8 +78,7 @@ TEST_F(ToDoWindow, ClosingLosesNothing) {
     OpenToDoList();
     EXPECT_TRUE(TaskListChanged) << "opening it again keeps the edits";
     window->txt[3]->setText(QStringLiteral("a\nb"));
-    dialogs.expect("has been changed", Answer::Yes);
-    dialogs.expect("To Do List Saved.");
+    dialogs.expect("has been changed", Answer::Yes).expect("To Do List Saved.");
     EXPECT_TRUE(window->close());
     EXPECT_TRUE(folder.get("To Do.dat")
                     .starts_with("\xF5\r\n\xF3one\r\n\xF5two\r\n\xF5"

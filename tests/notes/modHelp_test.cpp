@@ -33,7 +33,6 @@ TEST(Help, MissingFileAndTooManyTopicsFail) {
     int shown = 0;
     ShowHelpTopics = [&shown] { ++shown; };
     EXPECT_THROW(ReadHelpTopics(), Error);
-    EXPECT_EQ(shown, 0);
     std::string many;
     for (std::size_t i = 0; i <= MostHelpTopics; ++i) many += "*T:\r\n\r\n";
     folder.put("Help_Topics.txt", many);

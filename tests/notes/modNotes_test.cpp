@@ -124,14 +124,12 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     EXPECT_FALSE(SaveOpenNote());
     refuses = false;
     SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    dialogs.expect("turn", Answer::Yes);
-    dialogs.expect("SaveThisYearsNotes");
+    dialogs.expect("turn", Answer::Yes).expect("SaveThisYearsNotes");
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
     SetDisk({});
-    dialogs.expect("turn", Answer::Yes);
-    dialogs.expect("Notes Saved");
+    dialogs.expect("turn", Answer::Yes).expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
 }
 

@@ -21,8 +21,9 @@ ScriptedDialogs::~ScriptedDialogs() {
     SetDialogs(std::move(previous_));
 }
 
-void ScriptedDialogs::expect(const std::string& phrase, Answer answer) {
+ScriptedDialogs& ScriptedDialogs::expect(const std::string& phrase, Answer answer) {
     expected_.push_back({phrase, false, answer, {}});
+    return *this;
 }
 
 void ScriptedDialogs::expectInput(const std::string& phrase, std::optional<std::string> answer) {

@@ -18,7 +18,7 @@ class ScriptedDialogs {
     ~ScriptedDialogs();
 
     /// A message box whose text or title contains the phrase.
-    void expect(const std::string& phrase, Answer answer = Answer::Ok);
+    ScriptedDialogs& expect(const std::string& phrase, Answer answer = Answer::Ok);
     /// An input box whose title or prompt contains the phrase; nothing means cancelled.
     void expectInput(const std::string& phrase, std::optional<std::string> answer);
     /// Fails the test unless all expected boxes have been shown; forgets them.

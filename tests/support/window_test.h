@@ -13,6 +13,13 @@
 /// A test of windows: those still open are closed after it, unasked.
 struct WindowTest : PlannerTest {
     ~WindowTest() override { UnloadAllWindows(); }
+
+    /// Clicks the button; a box with the phrase must come of it.
+    void click(QAbstractButton* button, const char* told) {
+        dialogs.expect(told);
+        button->click();
+        dialogs.verify();
+    }
 };
 
 /// The middle of a date's cell on the picture of its month.

@@ -40,11 +40,9 @@ TEST_F(ToolWindows, DateBoxesFollowEachOtherAndTheDifferenceFollowsThem) {
     EXPECT_EQ(difference("Day of Year"), "1 Months") << "no interval of its own";
     EXPECT_EQ(difference("Hours"), "144 Hours");
     enter(end, "someday");
-    dialogs.expect("End Date is not a valid date.");
-    window->cmdDateDiff->click();
+    click(window->cmdDateDiff, "End Date is not a valid date.");
     enter(start, "2/29/2009");
-    dialogs.expect("Start Date is not a valid date.");
-    window->cmdDateDiff->click();
+    click(window->cmdDateDiff, "Start Date is not a valid date.");
     EXPECT_EQ(shown(), "2/29/2009 - someday");
 }
 
@@ -77,8 +75,7 @@ TEST_F(ToolWindows, WeekdaysAreCountedAndTheDatesKept) {
         window->txtEnd->setFocus();
         window->txtEnd->setText(QString::fromLatin1(end));
         window->cmdGetDays->setFocus();
-        dialogs.expect(told);
-        window->cmdGetDays->click();
+        click(window->cmdGetDays, told);
         QApplication::processEvents();
     }
     EXPECT_EQ(window->listed->rowCount(), 0);
@@ -90,12 +87,10 @@ TEST_F(ToolWindows, AlarmIsSetStartedRingsAndStartsAfresh) {
     FixClock(2026, 12, 31, 23, 59, 30);
     OpenAlarm();
     auto* window = OpenedWindow<frmAlarm>();
-    dialogs.expect("A valid time has not been entered.");
-    window->cmdAM->click();
+    click(window->cmdAM, "A valid time has not been entered.");
     QTest::keyClicks(window->txtTime, QStringLiteral("9a9999:x00"));
     EXPECT_EQ(window->txtTime->text(), QStringLiteral("99999:00"));
-    dialogs.expect("valid time in the Time Box before.");
-    window->cmdPM->click();
+    click(window->cmdPM, "valid time in the Time Box before.");
     window->cmdMinute[1]->click();
     window->cmdHour[11]->click();
     window->cmdAM->click();
