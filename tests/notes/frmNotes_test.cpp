@@ -47,7 +47,7 @@ TEST_F(EditorTest, OffersTheFirstTermThatFitsInTheCaseThatIsTyped) {
     for (auto& [text, keys, startPosition, expected] :
          {// in the case that is typed
           Row{"|", "ne", 0, "ne[w jersey]"}, Row{"|", "Ne", 0, "Ne[w Jersey]"}, Row{"|", "NE", 0, "NE[W JERSEY]"},
-          Row{"|", "iPh", 0, "iPh[one]"}, Row{"|", "nEw", 0, "New[ Jersey]"},
+          Row{"|", "Bu", 0, "Bu[dget]"}, Row{"|", "iPh", 0, "iPh[one]"}, Row{"|", "nEw", 0, "New[ Jersey]"},
           // in the order of the file
           Row{"|", "ze", 0, "ze[bra two]"},
           // from the start position on, while something fits
