@@ -87,6 +87,9 @@ TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
 
 TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     folder.put("UserPreferences.txt", "");
+    window->move(50, 60);
+    window->resize(220, 440);
+    const TermsPlace placed = Preferences.termsPlace;
     CloseTermsWindow();
     Preferences.termsPlace = {150000, -90000, 3000, 6000};
     Preferences.minimizeTerms = true;
@@ -96,7 +99,7 @@ TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     EXPECT_TRUE(window->screen()->geometry().contains(window->geometry()));
     // The place that is kept is the one it opens at again, frame and all.
     window->showNormal();
-    Preferences.termsPlace = {750, 900, 3300, 6600};
+    Preferences.termsPlace = placed;
     for (int opening = 0; opening < 3; ++opening) {
         const TermsPlace kept = Preferences.termsPlace;
         CloseTermsWindow();
