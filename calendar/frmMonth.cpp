@@ -44,7 +44,7 @@ void frmMonth::showLabels() {
         const bool used = i < DayLabels.labels.size();
         const QString caption = used ? FromText(CaptionOf(DayLabels.labels[i])) : QString();
         ShowFitting(lblTTT[i], caption);
-        lblTTT[i]->setToolTip(caption.toHtmlEscaped());  // also where all of it is seen
+        lblTTT[i]->setToolTip(TipOf(caption));  // also where all of it is seen
         QPalette colors;
         if (used) colors.setColor(QPalette::WindowText, FromColor(DayLabels.labels[i].color));
         lblTTT[i]->setPalette(colors);

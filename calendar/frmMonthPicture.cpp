@@ -92,5 +92,5 @@ void MonthPicture::showToolTip(QHelpEvent* event) {
     }
     // Shown for this cell alone: over the next one it goes, and comes again with that day's text.
     const QRect cell = fromScale(QRectF(hover.cell.column, hover.cell.row + 0.75, 1, 1));
-    QToolTip::showText(event->globalPos(), FromText(hover.text).toHtmlEscaped(), this, cell);
+    QToolTip::showText(event->globalPos(), TipOf(FromText(hover.text)), this, cell);
 }

@@ -59,7 +59,7 @@ void frmIcons::ReassignIconTags() {
     for (int slot = 0; slot < PaletteSize; ++slot) {
         const QString caption = FromText(IconCaption.at(static_cast<std::size_t>(slot)));
         (*imgIcon)[slot]->setPicture(PictureOfSlot(slot));
-        (*imgIcon)[slot]->setToolTip(caption);
+        (*imgIcon)[slot]->setToolTip(TipOf(caption));
         (*imgIcon)[slot]->setAccessibleName(caption);
     }
 }

@@ -115,7 +115,7 @@ bool PlacedIcons::showToolTip(QHelpEvent* event) {
     const int icon = iconAt(event->pos());
     if (icon < 0) return false;
     const auto palette = static_cast<std::size_t>(IconPool[static_cast<std::size_t>(icon)].palette);
-    QToolTip::showText(event->globalPos(), FromText(IconCaption.at(palette)).toHtmlEscaped(), this, placeOf(icon));
+    QToolTip::showText(event->globalPos(), TipOf(FromText(IconCaption.at(palette))), this, placeOf(icon));
     return true;
 }
 

@@ -2,6 +2,7 @@
 #include "forms/qt/text.h"
 
 #include <QLabel>
+#include <QTextDocument>
 
 #include "base/dialogs.h"
 #include "base/text.h"
@@ -52,8 +53,14 @@ std::optional<std::string> LineToSave(const QString& typed) {
 
 QString FromPath(const std::string& utf8) { return QString::fromStdString(utf8); }
 
+QString TipOf(const QString& text) {
+    // A plain tip is left as it is: it would show "&amp;" as that.
+    if (!Qt::mightBeRichText(text)) return text;
+    return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
+}
+
 void ShowFitting(QLabel* label, const QString& text) {
     const QString fitting = label->fontMetrics().elidedText(text, Qt::ElideRight, label->width());
     label->setText(fitting);
-    label->setToolTip(fitting == text ? QString() : text.toHtmlEscaped());
+    label->setToolTip(fitting == text ? QString() : TipOf(text));
 }

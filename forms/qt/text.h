@@ -22,5 +22,8 @@ std::optional<std::string> LineToSave(const QString& typed);
 
 QString FromPath(const std::string& utf8);
 
+/// The text as a tool tip that shows it to the letter: tips may hold markup, and would take "<b>" in a text for it.
+QString TipOf(const QString& text);
+
 /// Shows as much of the text on the label as fits its width; where that is not all, the whole text is its tool tip.
 void ShowFitting(QLabel* label, const QString& text);

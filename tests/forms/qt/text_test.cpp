@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <QLabel>
+#include <QTextDocument>
 
 TEST(FittingText, IsShortenedOnTheLabelAndWholeInTheToolTip) {
     QLabel label;
@@ -15,5 +16,14 @@ TEST(FittingText, IsShortenedOnTheLabelAndWholeInTheToolTip) {
     label.resize(60, 20);
     ShowFitting(&label, text);
     EXPECT_TRUE(label.text().startsWith(QStringLiteral("23: ")) && label.text() != text);
-    EXPECT_EQ(label.toolTip(), QStringLiteral("23: Celebration: &lt;b&gt;Zoe&lt;/b&gt;"));
+    EXPECT_EQ(label.toolTip(), QStringLiteral("<qt>23: Celebration: &lt;b&gt;Zoe&lt;/b&gt;</qt>"));
+}
+
+TEST(ToolTips, AreReadAsTheyWereTyped) {
+    for (const char* text : {"R&D: Tom & Ann \"x\"", "5 < 6 & 7", "<b>bold</b>", "&lt;b&gt;"}) {
+        const QString tip = TipOf(QString::fromLatin1(text));
+        QTextDocument markup;
+        markup.setHtml(tip);
+        EXPECT_EQ(Qt::mightBeRichText(tip) ? markup.toPlainText() : tip, QLatin1String(text));
+    }
 }
