@@ -23,6 +23,7 @@
 #include "calendar/modPaint.h"
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
+#include "forms/qt/fittingLabel.h"
 #include "forms/qt/leaving.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
@@ -84,6 +85,16 @@ void PutIn(QWidget* place, QWidget* panel, const QMargins& margins) {
     layout->addWidget(panel);
     panel->show();
 }
+
+/// On one line where there is room for it, on several where there is not: it does not make its window wider.
+class WrappedLabel : public QLabel {
+  public:
+    explicit WrappedLabel(QWidget* parent) : QLabel(parent) {
+        setTextFormat(Qt::PlainText);
+        setWordWrap(true);
+    }
+    QSize sizeHint() const override { return {fontMetrics().horizontalAdvance(text()) + 2, fontMetrics().height()}; }
+};
 
 QLabel* Label(const QString& name, const QString& text, QWidget* parent) {
     auto* label = Named(new QLabel(text, parent), name);
@@ -184,7 +195,9 @@ void frmMain::buildTopStrip() {
         row->addWidget(imgCal[i]);
     }
     row->addSpacing(12);
-    row->addWidget(lblTemplate = Label(QStringLiteral("lblTemplate"), QStringLiteral("Template = Standard"), picTop));
+    lblTemplate = Named(new WrappedLabel(picTop), QStringLiteral("lblTemplate"));
+    lblTemplate->setText(QStringLiteral("Template = Standard"));
+    row->addWidget(lblTemplate);
     lblTemplate->hide();
     row->addStretch(1);
     buildIndicators(picTop);
@@ -268,8 +281,9 @@ void frmMain::buildBottomPanels() {
     row->setContentsMargins(8, 2, 8, 2);
     row->addWidget(lblDate = Label(QStringLiteral("lblDate"), {}, picBottom[0]));
     row->addSpacing(24);
-    row->addWidget(
-        lblHoliday = Label(QStringLiteral("lblHoliday"), QStringLiteral("Holiday = None Chosen"), picBottom[0]), 1);
+    lblHoliday =
+        Named(new FittingLabel(QStringLiteral("Holiday = None Chosen"), picBottom[0]), QStringLiteral("lblHoliday"));
+    row->addWidget(lblHoliday, 1);
     row->addWidget(Label(QStringLiteral("lblCurPos"), QStringLiteral("Text Position ="), picBottom[0]));
     row->addWidget(lblMonth = Label(QStringLiteral("lblMonth"), {}, picBottom[0]));
     row->addWidget(lblX = Label(QStringLiteral("lblX"), {}, picBottom[0]));

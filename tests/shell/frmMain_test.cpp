@@ -60,6 +60,13 @@ TEST_F(MainWindowTest, OpensInTheYearOfToday) {
     EXPECT_TRUE(window_->lblTemplate->isHidden() && window_->imgCal[2]->isLatched());
 }
 
+TEST_F(MainWindowTest, WhatItTellsDoesNotWidenIt) {
+    Shell.showHolidayLabel("Holiday = " + std::string(300, 'x'));
+    Shell.showTemplateLabel("Monthly View = Marks Only");
+    QCoreApplication::processEvents();
+    EXPECT_LE(window_->minimumSizeHint().width(), 800);
+}
+
 TEST_F(MainWindowTest, MenusShowTheUsersCaptionsUnderTheCategorysIndex) {
     const QMenu* shown = window_->item(QStringLiteral("mnuEditDiplayedMarks"))->menu();
     QStringList names;

@@ -1,0 +1,21 @@
+// A label that never asks for more room than there is.
+#pragma once
+
+#include <QLabel>
+
+/// Shows as much of its plain text as fits its width; where that is not all, the whole text is its tool tip. Unlike a
+/// usual label it does not make its window wider.
+class FittingLabel : public QLabel {
+    Q_OBJECT
+
+  public:
+    FittingLabel(const QString& text, QWidget* parent);
+    QSize minimumSizeHint() const override;
+
+  protected:
+    bool event(QEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+  private:
+    QString fitting() const;
+};
