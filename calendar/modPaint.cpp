@@ -81,6 +81,7 @@ void ContrastColor(Color color) {
 }
 
 void PaintDay(Year slot, Cell cell, int day, Color fill) {
+    if (Paint.ofTemplate) return;
     ContrastColor(fill);
     if (fill == 0) MarkTextColor = Black;
     for (ShownMonth& shown : ShownMonths) {

@@ -33,6 +33,7 @@ struct PaintState {
     std::vector<ShownMonth> shownMonths;
     DayStyle style = DayStyle::Box;
     bool numbersOffset = false;         // "Show Numbers Offset"
+    bool ofTemplate = false;            // the month on display is the icons' template, no month of a year
     Font gridFont{"MS Sans Serif", 8};  // of the numbers and headers of small grids
     Color markTextColor = Black;
     std::array<DayPaintEntry, 31> dayPaint{};
@@ -52,7 +53,8 @@ inline constexpr double GridHeight = 6.75;
 void ContrastColor(Color color);
 
 /// Paints the cell's day on every shown month of that slot: fill 0 gives a white box with a black number, or a black
-/// number in the one-month view. `day` is the number printed, 1..31.
+/// number in the one-month view. The template has no year's days and is left as it is. `day` is the number
+/// printed, 1..31.
 void PaintDay(Year slot, Cell cell, int day, Color fill);
 
 /// Prints the cell's number on one shown month as it stands without mark: black, or the given colour in the one-month

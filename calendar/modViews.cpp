@@ -52,6 +52,7 @@ void ListMonths(int view, Date first) {
     const std::vector<Canvas*> canvases = Shell.openView ? Shell.openView(view) : std::vector<Canvas*>();
     ShownMonths.clear();
     Paint.style = view == 1 ? DayStyle::Number : DayStyle::Box;
+    Paint.ofTemplate = view == 1 && TemplateMode;
     Paint.dayPaint = {};
     for (std::size_t i = 0; i < canvases.size(); ++i) {
         const Date month = AddMonths(first, static_cast<int>(i));
@@ -249,7 +250,7 @@ void RepaintCalendar() {
         DrawMonth(ShownMonths.front(), first);
     else
         DrawSmallMonths(CalendarView == 6 ? 3 : 2, CalendarView == 6 ? Today() : Calendar.startedOn);
-    if (!TemplateMode) PaintSlot(ThisYear);
+    PaintSlot(ThisYear);
     if (SpansNextYear) PaintSlot(NextYear);
     Tell(Shell.showDrawn);
 }

@@ -2,6 +2,8 @@
 #include "calendar/modViews.h"
 
 #include "calendar/modNavigation.h"
+#include "marks/modIcons.h"
+#include "marks/modMarkerDisplay.h"
 #include "tests/support/calendar.h"
 
 namespace {
@@ -89,6 +91,21 @@ TEST_F(Views, DataIsPaintedHolidaysThenBirthdaysThenMarks) {
     show(1, 2026, 12, 1);
     EXPECT_NE(month(0).containing("'25'").back().find("bold 0000FF"), std::string::npos);
     EXPECT_EQ(DayPaint[24].color, MeetingColor);
+}
+
+TEST_F(Views, NoDayOfItsYearIsPaintedOnTheTemplate) {
+    folder.put("2026Marks.dat", "00:04:00:255\r\n00:05:00:128");
+    TemplateDate = MakeDate(2026, 1, 1);  // Thursday
+    TemplateMode = true;
+    show(1, 2026, 11, 22);
+    ShowCategory(0, false);
+    EXPECT_EQ(painted(2026, 1, 1), 0u);
+    RepaintCalendar();
+    EXPECT_EQ(painted(2026, 1, 1), 0u);
+    EXPECT_EQ(hoverText(2026, 1, 31), "31 signifies the last day of any month.");
+    dialogs.verify();
+    show(6, 2026, 1, 1);
+    EXPECT_EQ(painted(2026, 1, 1), MeetingColor);
 }
 
 TEST_F(Views, NothingOfAnotherYearShows) {
