@@ -50,11 +50,15 @@ std::string SoftwareVersion() {
 namespace {
 /// Selects the date in the pickers after the questions about unsaved changes; false where the command ends.
 bool TakePickers(const char* procedure) {
+    const bool inTemplate = TemplateMode;
     if (!MayGoOn()) return false;
-    return Reporting(procedure, [] {
+    const bool taken = Reporting(procedure, [] {
         SelectDate(Shell.dateOfPickers());
         Tell(Shell.showInPickers, SelectedDate);
     });
+    // A template that was left at the question goes from the screen, whether the date is one or not.
+    if (inTemplate && !TemplateMode) ShowCurrentCalendar();
+    return taken;
 }
 }  // namespace
 
@@ -76,10 +80,7 @@ void ShowViewOfPickers(const char* procedure, int view) {
 }
 
 void OpenNotesOfPickers(const char* procedure) {
-    const bool inTemplate = TemplateMode;
-    if (!TakePickers(procedure)) return;
-    if (inTemplate && !TemplateMode) ShowCurrentCalendar();  // the template was left at the question
-    DisplayThisNote();
+    if (TakePickers(procedure)) DisplayThisNote();
 }
 
 void ShowNumbersOffset(bool offset) {

@@ -1,6 +1,7 @@
 // Start-up without windows and the commands of the pickers.
 #include "shell/modStart.h"
 
+#include "marks/modIcons.h"
 #include "reminders/modAlerts.h"
 #include "shell/modPreferences.h"
 #include "shell/modShortcuts.h"
@@ -34,6 +35,18 @@ TEST_F(Start, PickersTakeAnyYearRefuseImpossibleDatesAndDrawTheCurrentView) {
     EXPECT_EQ(show("February 30 2026", 0), "Tasmoro: Feb 9996 Calendar");
     EXPECT_EQ(SelectedDate, MakeDate(9996, 2, 29));
     EXPECT_EQ(show("August 15 2026", 0), "Tasmoro: Aug 2026 Calendar");
+}
+
+TEST_F(Start, TemplateLeftAtTheQuestionGoesFromTheScreenThoughTheDateIsNone) {
+    TemplateDate = MakeDate(2026, 1, 1);
+    TemplateMode = true;
+    show(1, 2026, 11, 22);
+    IconsChanged = true;
+    pickers = "February 30 2026";
+    dialogs.expect("Do you want to save those changes?", Answer::No);
+    dialogs.expect("Type mismatch");
+    ShowViewOfPickers("imgOpt_Click", 12);
+    EXPECT_EQ(caption, "Tasmoro: Nov 2026 Calendar");
 }
 
 TEST_F(Start, EveryStepThatFailsReportsAndTheNextOneRuns) {
