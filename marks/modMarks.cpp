@@ -147,6 +147,7 @@ std::string MarkLine(const MarkRecord& mark) {
 }
 
 MarkRecord ParseMark(std::string_view line) {
+    if (Middle(line, 9, 1) == "-") throw Error(TypeMismatch);  // what follows is a hover text: there is no colour
     MarkRecord mark;
     MarkReader reader{line};
     WalkMark(reader, mark);

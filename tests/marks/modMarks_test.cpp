@@ -93,6 +93,7 @@ TEST_F(MarksTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
                                         {start + "01:xx:01:255", "Number: 13", 1},
                                         {start + "01:01", "Type mismatch (line 2 of the file \"", 1},
                                         {start + "01:01:01:-text", "Number: 13", 1},
+                                        {start + "01:01:01-255", "Number: 13", 1},
                                         {start + "01:01:01:16777216", "Number: 6", 1},
                                         {start + "\r\n01:01:01:255", "Number: 13", 1},
                                         {start + std::string(40, '\0'), "Number: 13", 1},
