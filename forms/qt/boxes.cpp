@@ -5,6 +5,7 @@
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QWindow>
 #include <algorithm>
 
 #include "base/dialogs.h"
@@ -30,13 +31,18 @@ QString Shown(const std::string& utf8) {
     return QString::fromStdString(utf8).replace(QStringLiteral("\r\n"), QStringLiteral("\n")).trimmed();
 }
 
-/// A box must not open behind a window that is kept above the others.
+/// A box must not open behind a window that is kept above the others, nor get behind it when that one, asked for just
+/// before, is activated after it: the window manager keeps the box above the window it belongs to.
 void KeepInFront(QWidget& box) {
     const auto windows = QApplication::topLevelWidgets();
-    const bool covered = std::any_of(windows.begin(), windows.end(), [](const QWidget* window) {
-        return window->isVisible() && window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
+    const auto covering = std::find_if(windows.begin(), windows.end(), [](const QWidget* window) {
+        return window->isVisible() && !window->isMinimized() && window->windowType() == Qt::Window &&
+               window->windowFlags().testFlag(Qt::WindowStaysOnTopHint);
     });
-    if (covered) box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    if (covering == windows.end()) return;
+    box.setWindowFlag(Qt::WindowStaysOnTopHint);
+    box.winId();
+    box.windowHandle()->setTransientParent((*covering)->windowHandle());
 }
 
 Answer ShowBox(const std::string& text, Buttons buttons, const std::string& title) {

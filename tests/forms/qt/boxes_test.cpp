@@ -6,8 +6,10 @@
 #include <QInputDialog>
 #include <QTest>
 #include <QTimer>
+#include <QWindow>
 
 #include "base/dialogs.h"
+#include "forms/qt/window.h"
 
 namespace {
 struct Boxes : testing::Test {
@@ -33,6 +35,19 @@ TEST_F(Boxes, EnterAndEscapeNeverAnswerALoss) {
             then([pressed = key](QWidget* box) { QTest::keyClick(box, pressed); });
             EXPECT_EQ(Ask("Go on?", buttons), answer) << static_cast<int>(buttons) << " key " << key;
         }
+}
+
+TEST_F(Boxes, BoxBelongsToTheWindowThatIsKeptAboveTheOthers) {
+    QWidget palette;
+    MakeMeTopmost(&palette);
+    const auto look = [&palette](QWidget* box) {
+        EXPECT_EQ(box->windowHandle()->transientParent(), palette.windowHandle());
+        QTest::keyClick(box, Qt::Key_Escape);
+    };
+    then(look);
+    ShowMessage("Placed.");
+    then(look);
+    EXPECT_EQ(AskForText("Name?", "Naming", "old"), "");
 }
 
 TEST_F(Boxes, AnInputBoxComesBackWithTheTextThatNoFileHolds) {
