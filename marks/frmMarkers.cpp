@@ -14,6 +14,7 @@
 
 namespace {
 constexpr int BoxRows = 7;
+constexpr int LongestCaption = 36;  // in usual letters
 
 std::size_t At(int index) { return static_cast<std::size_t>(index); }
 
@@ -87,7 +88,10 @@ void frmMarkers::showBoxes() {
     for (std::size_t k = 0; k < CategoryCount; ++k) {
         const QSignalBlocker quiet(chkMarker[k]);
         const QString caption = FromText(MarkerCaption[k]);
-        chkMarker[k]->setText(QString(caption).replace(QLatin1Char('&'), QStringLiteral("&&")));
+        // A long caption loses its end here: it must not push the second column and the buttons off the screen.
+        const int room = fontMetrics().averageCharWidth() * LongestCaption;
+        QString shown = fontMetrics().elidedText(caption, Qt::ElideRight, room);
+        chkMarker[k]->setText(shown.replace(QLatin1Char('&'), QStringLiteral("&&")));
         chkMarker[k]->setAccessibleName(caption);
         chkMarker[k]->setIcon(Swatch(MarkerColor[k], this));
         chkMarker[k]->setChecked(!MarkerHidden[k]);

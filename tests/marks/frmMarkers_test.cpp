@@ -22,6 +22,14 @@ struct MarkersWindow : WindowTest {
 };
 }  // namespace
 
+TEST_F(MarkersWindow, LongCaptionsLeaveTheWindowOnTheScreen) {
+    for (auto& caption : MarkerCaption) caption = std::string(300, 'x');
+    ShowCategories();
+    QCoreApplication::processEvents();
+    EXPECT_LE(window->sizeHint().width(), 800);
+    EXPECT_EQ(window->chkMarker[0]->accessibleName().size(), 300);
+}
+
 TEST_F(MarkersWindow, BoxesAndTablesFollowEachOther) {
     EXPECT_EQ(checked(), 13);
     window->chkMarker[11]->click();
