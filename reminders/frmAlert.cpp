@@ -211,8 +211,8 @@ void frmAlert::showLists() {
     ShowEntries(lstAlerts[1], AlertList.dates);
     ShowEntries(lstAlerts[2], AlertList.messages);
     for (int row = 0; row < lstAlerts[1]->count(); ++row) {
-        lstAlerts[1]->item(row)->setToolTip(lstAlerts[2]->item(row)->text());
-        lstAlerts[2]->item(row)->setToolTip(lstAlerts[1]->item(row)->text());
+        lstAlerts[1]->item(row)->setToolTip(TipOf(lstAlerts[2]->item(row)->text()));
+        lstAlerts[2]->item(row)->setToolTip(TipOf(lstAlerts[1]->item(row)->text()));
     }
     menus[QStringLiteral("mnuViewAll")]->setChecked(!ViewPendingAlerts);
     menus[QStringLiteral("mnuViewPending")]->setChecked(ViewPendingAlerts);

@@ -164,13 +164,15 @@ TEST_F(ReminderWindows, AlertsAreEnteredWithDateBoxesAndPeriods) {
 }
 
 TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
-    folder.put("Alerts.dat", "46340:0003:Gone\r\n46350:0004:Soon\r\n");
+    folder.put("Alerts.dat", "46340:0003:<b>Gone\r\n46350:0004:Soon\r\n");
     ReadAlerts();
     OpenAlertManager(true);
     auto* window = OpenedWindow<frmAlert>();
     window->menus[QStringLiteral("mnuViewAll")]->trigger();
     window->menus[QStringLiteral("mnuSortMessage")]->trigger();
     EXPECT_TRUE(window->lstAlerts[2]->isVisible());
+    EXPECT_EQ(window->lstAlerts[1]->item(0)->toolTip(), QStringLiteral("<qt>&lt;b&gt;Gone</qt>"))
+        << "a text, not markup";
     window->lstAlerts[2]->setCurrentRow(1);
     EXPECT_EQ(window->txtMessage->toPlainText(), QStringLiteral("Soon"));
     EXPECT_EQ(window->txtValue->text(), QStringLiteral("4"));
