@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "calendar/modNavigation.h"
+#include "forms/qt/fittingLabel.h"
 #include "forms/qt/text.h"
 #include "marks/frmPlacedIcons.h"
 #include "marks/modIcons.h"
@@ -43,7 +44,7 @@ void frmMonth::showLabels() {
     for (std::size_t i = 0; i < lblTTT.size(); ++i) {
         const bool used = i < DayLabels.labels.size();
         const QString caption = used ? FromText(CaptionOf(DayLabels.labels[i])) : QString();
-        ShowFitting(lblTTT[i], caption);
+        lblTTT[i]->setText(caption);
         lblTTT[i]->setToolTip(TipOf(caption));  // also where all of it is seen
         QPalette colors;
         if (used) colors.setColor(QPalette::WindowText, FromColor(DayLabels.labels[i].color));
@@ -65,8 +66,7 @@ void frmMonth::buildLeftPanel() {
     picTTT->setAutoFillBackground(true);
     picTTT->setPalette(QPalette(Qt::black, Qt::white));
     for (int i = 0; i < 36; ++i) {
-        auto* label = Named(new QLabel(picTTT), ElementName("lblTTT", i));
-        label->setTextFormat(Qt::PlainText);
+        auto* label = Named(new FittingLabel({}, picTTT), ElementName("lblTTT", i));
         label->hide();
         lblTTT[static_cast<std::size_t>(i)] = label;
     }

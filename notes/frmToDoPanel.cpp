@@ -4,6 +4,7 @@
 #include <QEvent>
 #include <algorithm>
 
+#include "forms/qt/fittingLabel.h"
 #include "forms/qt/text.h"
 #include "forms/qt/window.h"
 
@@ -44,8 +45,7 @@ void ToDoPanel::makeItem(int item) {
     const QString number = QString::number(item);
     imgChkBox[at] = Named(new PictureLabel(Picture::Unchecked, this), ElementName("imgChkBox", item));
     lbl[at] = Named(new QLabel(number, this), ElementName("lbl", item));
-    lblToDo[at] = Named(new QLabel(this), ElementName("lblToDo", item), QStringLiteral("To do ") + number);
-    lblToDo[at]->setTextFormat(Qt::PlainText);
+    lblToDo[at] = Named(new FittingLabel({}, this), ElementName("lblToDo", item), QStringLiteral("To do ") + number);
 }
 
 int ToDoPanel::HeightWith(const QFontMetrics& metrics) {
@@ -67,12 +67,7 @@ void ToDoPanel::placeItems() {
         imgChkBox[at]->setGeometry(left, y + (height - MarkSize) / 2, MarkSize, MarkSize);
         lbl[at]->setGeometry(left + NumberOffset, y, TextOffset - NumberOffset, height);
         lblToDo[at]->setGeometry(left + TextOffset, y, std::max(0, right - left - TextOffset), height);
-        showText(item);
     }
-}
-
-void ToDoPanel::showText(int item) {
-    ShowFitting(lblToDo[static_cast<std::size_t>(item)], FromText(ToDo.panelTexts[RowOf(item)]));
 }
 
 void ToDoPanel::refresh() {
@@ -81,7 +76,7 @@ void ToDoPanel::refresh() {
         PictureLabel* mark = imgChkBox[static_cast<std::size_t>(item)];
         mark->setPicture(done ? Picture::Checked : Picture::Unchecked);
         mark->setAccessibleName(done ? QStringLiteral("done") : QStringLiteral("not done"));
-        showText(item);
+        lblToDo[static_cast<std::size_t>(item)]->setText(FromText(ToDo.panelTexts[RowOf(item)]));
     }
 }
 

@@ -39,5 +39,4 @@ class ToDoPanel : public QWidget {
   private:
     void makeItem(int item);
     void placeItems();
-    void showText(int item);
 };

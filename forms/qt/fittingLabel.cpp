@@ -19,9 +19,8 @@ QString FittingLabel::fitting() const {
 }
 
 bool FittingLabel::event(QEvent* event) {
-    if (event->type() != QEvent::ToolTip) return QLabel::event(event);
-    const QString tip = fitting() == text() ? QString() : TipOf(text());
-    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), tip, this);
+    if (event->type() != QEvent::ToolTip || !toolTip().isEmpty() || fitting() == text()) return QLabel::event(event);
+    QToolTip::showText(static_cast<QHelpEvent*>(event)->globalPos(), TipOf(text()), this);
     return true;
 }
 

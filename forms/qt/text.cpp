@@ -1,7 +1,6 @@
 // Between Unicode and Windows-1252, through the full table.
 #include "forms/qt/text.h"
 
-#include <QLabel>
 #include <QTextDocument>
 
 #include "base/dialogs.h"
@@ -57,10 +56,4 @@ QString TipOf(const QString& text) {
     // A plain tip is left as it is: it would show "&amp;" as that.
     if (!Qt::mightBeRichText(text)) return text;
     return QStringLiteral("<qt>") + text.toHtmlEscaped() + QStringLiteral("</qt>");
-}
-
-void ShowFitting(QLabel* label, const QString& text) {
-    const QString fitting = label->fontMetrics().elidedText(text, Qt::ElideRight, label->width());
-    label->setText(fitting);
-    label->setToolTip(fitting == text ? QString() : TipOf(text));
 }

@@ -6,8 +6,6 @@
 #include <string>
 #include <string_view>
 
-class QLabel;
-
 QString FromText(std::string_view text);
 
 /// What the code page does not have becomes "?". For what is looked up or shown, never for what is saved.
@@ -24,6 +22,3 @@ QString FromPath(const std::string& utf8);
 
 /// The text as a tool tip that shows it to the letter: tips may hold markup, and would take "<b>" in a text for it.
 QString TipOf(const QString& text);
-
-/// Shows as much of the text on the label as fits its width; where that is not all, the whole text is its tool tip.
-void ShowFitting(QLabel* label, const QString& text);

@@ -3,20 +3,27 @@
 
 #include <gtest/gtest.h>
 
-#include <QLabel>
+#include <QHelpEvent>
 #include <QTextDocument>
+#include <QToolTip>
 
-TEST(FittingText, IsShortenedOnTheLabelAndWholeInTheToolTip) {
-    QLabel label;
+#include "forms/qt/fittingLabel.h"
+
+TEST(FittingLabel, ShowsTheBeginningAndTellsTheWholeText) {
     const QString text = QStringLiteral("23: Celebration: <b>Zoe</b>");
+    FittingLabel label(text, nullptr);
+    const auto tipOf = [&] {
+        QHelpEvent asked(QEvent::ToolTip, QPoint(1, 1), QPoint(1, 1));
+        QCoreApplication::sendEvent(&label, &asked);
+        return QToolTip::text();
+    };
     label.resize(label.fontMetrics().horizontalAdvance(text) + 2, 20);
-    ShowFitting(&label, text);
-    EXPECT_EQ(label.text(), text);
-    EXPECT_EQ(label.toolTip(), QString());
+    EXPECT_EQ(label.fitting(), text);
+    EXPECT_EQ(tipOf(), QString());
     label.resize(60, 20);
-    ShowFitting(&label, text);
-    EXPECT_TRUE(label.text().startsWith(QStringLiteral("23: ")) && label.text() != text);
-    EXPECT_EQ(label.toolTip(), QStringLiteral("<qt>23: Celebration: &lt;b&gt;Zoe&lt;/b&gt;</qt>"));
+    EXPECT_TRUE(label.fitting().startsWith(QStringLiteral("23: ")) && label.fitting() != text);
+    EXPECT_EQ(tipOf(), QStringLiteral("<qt>23: Celebration: &lt;b&gt;Zoe&lt;/b&gt;</qt>"));
+    EXPECT_EQ(label.minimumSizeHint().width(), 0) << "its window stays as wide as it is";
 }
 
 TEST(ToolTips, AreReadAsTheyWereTyped) {
