@@ -217,6 +217,7 @@ void MakeTermsFileDefault() {
         ShowMessage("File not found.");
     else
         SaveDefaultTermsFile(CurrentTermsFile);
+    TermsChanged();  // reading the preferences again may have switched completion
 }
 
 // -- Terms ------------------------------------------------------------------------------------------------------------

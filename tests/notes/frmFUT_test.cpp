@@ -4,6 +4,7 @@
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"
 #include "notes/frmNotes.h"
+#include "notes/frmPref.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"
@@ -57,6 +58,14 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(window->lstFUT->item(0)->text(), QStringLiteral("Animal Doctor"));
     window->cmdOpt[2]->click();
     EXPECT_FALSE(AutoCompleteOn);
+    // Reading the preferences again switches completion, and the button says so.
+    window->item(QStringLiteral("mnuFileDefaultFUT"))->trigger();
+    EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Disable Auto Complete"));
+    auto* preferences = ShowWindow<frmPref>();
+    EXPECT_TRUE(preferences->windowFlags().testFlag(Qt::WindowStaysOnTopHint));  // as the terms window is
+    preferences->chkACEnable->click();
+    preferences->cmdSave->click();
+    EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Enable Auto Complete"));
 }
 
 TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
