@@ -177,7 +177,8 @@ TEST_F(EditorTest, FindsThePhraseAgainAndAgain) {
 TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {
     open();
     type("x");
-    window->cmdFormat->click();
+    press(Qt::Key_I, Qt::AltModifier);  // the Tab key writes tabs here
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box->length() > 1; }));
     EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n")) << shown();
     EXPECT_EQ(box->document()->blockCount(), 2 + 72);
     const auto drop = [&] {
