@@ -93,5 +93,14 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     window->close();
     EXPECT_FALSE(SearchActive);
     EXPECT_FALSE(editor->item(QStringLiteral("mnuEditSearchAgain"))->isEnabled());
+    // A note that stays in the editor was not opened by the search.
+    window = ShowWindow<frmSearch>();
+    window->cmbPhrase->setEditText(QStringLiteral("vet"));
+    click(window->cmdSearch, "Search Phrase appears on 1 date");
+    QTest::keyClicks(editor->txtNotes, QStringLiteral("!"));
+    window->lstResults->setCurrentRow(0);
+    dialogs.expect("Text has been changed", Answer::Cancel);
+    window->cmdOpen->click();
+    EXPECT_FALSE(SearchActive);
 }
 }  // namespace
