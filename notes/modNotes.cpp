@@ -136,8 +136,15 @@ bool Save(Year slot) {
     if (YearOf(Notes.openDate) != YearOfSlot(slot)) throw Error(InvalidCall);
     const auto text = NoteEditor.textToSave ? NoteEditor.textToSave() : std::string();
     if (!text || !MayTurnIntoLineBreaks(*text, "note")) return false;
-    StoreText(slot, *text);
-    WriteNotes(Notes.years[slot]);
+    // What could not be written must not go out with the next save: the user may yet give it up.
+    const NotesOfYear before = Notes.years[slot];
+    try {
+        StoreText(slot, *text);
+        WriteNotes(Notes.years[slot]);
+    } catch (...) {
+        Notes.years[slot] = before;
+        throw;
+    }
     SetOriginalText(*text);
     NotesChanged = false;
     return true;

@@ -128,6 +128,7 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
+    EXPECT_EQ(NoteOf(ThisYear, MakeDate(2026, 3, 4)), "saved");  // nor is it saved along with another note
     SetDisk({});
     dialogs.expect("turn", Answer::Yes).expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());
