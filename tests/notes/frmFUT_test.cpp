@@ -100,6 +100,10 @@ TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     window->resize(220, 440);
     const TermsPlace placed = Preferences.termsPlace;
     CloseTermsWindow();
+    Preferences.termsPlace = {750, 900, 0, -9};
+    OpenTermsWindow();
+    EXPECT_TRUE(OpenedWindow<frmFUT>()->width() > 50 && OpenedWindow<frmFUT>()->height() > 100);
+    CloseTermsWindow();
     Preferences.termsPlace = {150000, -90000, 3000, 6000};
     Preferences.minimizeTerms = true;
     OpenTermsWindow();
