@@ -52,7 +52,13 @@ void Read(Year slot) {
     notes.year = YearOfSlot(slot);
     const Path folder = YearFolder(notes.year);
     if (!FolderExists(DataFolder(), folder.filename().string()) || !FileExists(folder, NotesFile)) return;
-    ReadDataLines(PathInFolder(folder, NotesFile), [slot](std::string_view line, int) { TakeLine(slot, line); });
+    const Path file = PathInFolder(folder, NotesFile);
+    bool whole = true;
+    ReadDataLines(file, [&](std::string_view line, int) {
+        TakeLine(slot, line);
+        whole = whole && line[8] == ':' && line[15] == ':';
+    });
+    if (!whole) MarkNotFullyRead(file);  // what stands in place of the colons is held nowhere
 }
 
 /// What the editor's text is compared with from now on.
