@@ -68,6 +68,30 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Enable Auto Complete"));
 }
 
+TEST_F(TermsWindow, AsksBeforeTypedTermsGo) {
+    window->cmdOpt[0]->click();
+    auto* add = OpenedWindow<frmAddFUT>();
+    add->txtAddFUT->setPlainText(QStringLiteral("plumber"));
+    for (const Answer answer : {Answer::Cancel, Answer::Yes}) {
+        dialogs.expect("The terms have not been saved.", answer);
+        EXPECT_EQ(add->close(), answer == Answer::Yes);
+    }
+    EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nplumber\r\nvet");
+    select(0);
+    window->cmdOpt[1]->click();
+    auto* edit = OpenedWindow<frmEditFUT>();
+    edit->txtEditFUT->setText(QStringLiteral("doctore\u0301"));
+    select(2);
+    dialogs.expect("The term has been changed.", Answer::Cancel);
+    window->cmdOpt[1]->click();
+    EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("doctore\u0301"));
+    dialogs.expect("The term has been changed.", Answer::Yes);
+    window->cmdOpt[1]->click();
+    EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
+    EXPECT_TRUE(edit->close());
+    EXPECT_EQ(folder.get("Home.fut"), "doctor\xE9\r\nplumber\r\nvet");
+}
+
 TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
     SelectDate(MakeDate(2026, 10, 5));
     DisplayThisNote();
