@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QShortcut>
 
+#include "base/dialogs.h"
 #include "forms/qt/text.h"
 #include "notes/modFUT.h"
 
@@ -34,9 +35,23 @@ frmAddFUT::frmAddFUT() : Window("frmAddFUT", QStringLiteral("Add Frequently Used
 
 /// The text stays, selected: what is typed next takes its place.
 void frmAddFUT::cmdSave_Click() {
-    const auto text = TextToSave(txtAddFUT->toPlainText());
-    if (text && AddTerms(*text)) txtAddFUT->selectAll();
+    if (save()) txtAddFUT->selectAll();
     txtAddFUT->setFocus();
+}
+
+bool frmAddFUT::save() {
+    const QString typed = txtAddFUT->toPlainText();
+    const auto text = TextToSave(typed);
+    if (!text || !AddTerms(*text)) return false;
+    saved_ = typed;
+    return true;
+}
+
+bool frmAddFUT::queryUnload() {
+    const QString typed = txtAddFUT->toPlainText();
+    if (typed == saved_ || typed.trimmed().isEmpty()) return true;
+    return AskToSave("The terms have not been saved. Do you want to save them?", "Terms Not Saved",
+                     [this] { return save(); });
 }
 
 void frmAddFUT::cmdClear_Click() {

@@ -19,7 +19,13 @@ class frmAddFUT : public Window {
     QPushButton* cmdClear;
     QPushButton* cmdExit;
 
+    /// Asks about terms that were typed and not saved.
+    bool queryUnload() override;
+
   private:
     void cmdSave_Click();
+    bool save();
     void cmdClear_Click();
+
+    QString saved_;  // what was typed when it was saved last
 };

@@ -4,6 +4,7 @@
 #include <QBoxLayout>
 #include <QShortcut>
 
+#include "base/dialogs.h"
 #include "forms/qt/text.h"
 #include "notes/modFUT.h"
 
@@ -33,13 +34,27 @@ frmEditFUT::frmEditFUT() : Window("frmEditFUT", QStringLiteral("Edit Frequently 
 }
 
 void frmEditFUT::edit(const std::string& term) {
+    if (!queryUnload()) return;
     term_ = term;
     txtEditFUT->setText(FromText(term));
+    shown_ = txtEditFUT->text();
     txtEditFUT->selectAll();
     txtEditFUT->setFocus();
 }
 
 void frmEditFUT::cmdSave_Click() {
+    if (save()) close();
+}
+
+bool frmEditFUT::save() {
     const auto text = LineToSave(txtEditFUT->text());
-    if (text && ChangeTerm(term_, *text)) close();
+    if (!text || !ChangeTerm(term_, *text)) return false;
+    shown_ = txtEditFUT->text();
+    return true;
+}
+
+bool frmEditFUT::queryUnload() {
+    if (txtEditFUT->text() == shown_) return true;
+    return AskToSave("The term has been changed. Do you want to save the changes?", "Term Has Changed",
+                     [this] { return save(); });
 }

@@ -19,11 +19,15 @@ class frmEditFUT : public Window {
     QPushButton* cmdSave;
     QPushButton* cmdExit;
 
-    /// Shows the term that is to be changed.
+    /// Shows the term that is to be changed, once another one that was changed and not saved has been asked about.
     void edit(const std::string& term);
+    /// Asks about a change that was not saved.
+    bool queryUnload() override;
 
   private:
     void cmdSave_Click();
+    bool save();
 
     std::string term_;
+    QString shown_;  // as the box showed it before anybody typed, or when it was saved last
 };

@@ -24,6 +24,7 @@ namespace {
 constexpr int ListMargin = Pixels(75);
 constexpr int PanelGap = Pixels(210);
 constexpr int SmallestHeight = Pixels(2000);  // of a window whose lists can still be used
+constexpr int SmallestWidth = Pixels(1500);   // of one that is opened
 
 void SelectOnly(QListWidget* list, int row) { list->setCurrentRow(row, QItemSelectionModel::ClearAndSelect); }
 }  // namespace
@@ -164,7 +165,8 @@ void frmFUT::showTerms() {
 
 void frmFUT::place() {
     const TermsPlace place = Preferences.termsPlace;
-    const QRect wanted(Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height));
+    QRect wanted(Pixels(place.left), Pixels(place.top), Pixels(place.width), Pixels(place.height));
+    wanted.setSize(wanted.size().expandedTo({SmallestWidth, smallestHeight()}));
     if (screen()->geometry().width() >= 1024) {
         PlaceOnScreens(this, wanted);
     } else {
@@ -178,6 +180,10 @@ void frmFUT::rememberPlace() {
     const QRect now(pos(), size());
     Preferences.termsPlace = {static_cast<float>(Twips(now.left())), static_cast<float>(Twips(now.top())),
                               static_cast<float>(Twips(now.width())), static_cast<float>(Twips(now.height()))};
+}
+
+int frmFUT::smallestHeight() const {
+    return std::max(SmallestHeight, layout()->minimumSize().height() - lstFUT->minimumSizeHint().height());
 }
 
 void frmFUT::tellTooSmall() {
@@ -260,9 +266,7 @@ void frmFUT::resizeEvent(QResizeEvent* event) {
     Window::resizeEvent(event);
     if (isMinimized() || !isVisible()) return;
     rememberPlace();
-    const int smallest =
-        std::max(SmallestHeight, layout()->minimumSize().height() - lstFUT->minimumSizeHint().height());
-    if (height() < smallest) {
+    if (height() < smallestHeight()) {
         QTimer::singleShot(0, this, [this] { tellTooSmall(); });
         return;
     }

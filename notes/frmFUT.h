@@ -55,6 +55,7 @@ class frmFUT : public Window {
     void buildMenus();
     void layOut();
     void rememberPlace();
+    int smallestHeight() const;
     void tellTooSmall();
     std::vector<std::string> selectedTerms() const;
 

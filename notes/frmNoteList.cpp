@@ -34,7 +34,10 @@ frmNoteList::frmNoteList() : Window("frmNoteList", QStringLiteral("Notes Managem
     connect(cmdLoad, &QPushButton::clicked, this, [this] { populateListBoxes(); });
     connect(cmbYear->lineEdit(), &QLineEdit::returnPressed, this, [this] { populateListBoxes(); });
     connect(cmdOpen, &QPushButton::clicked, this, [this] { cmdOpen_Click(); });
-    connect(lst, &QListWidget::itemActivated, this, [this] { cmdOpen_Click(); });
+    connect(lst, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+        item->setSelected(true);  // Enter means the row that has the focus
+        cmdOpen_Click();
+    });
     connect(cmdDelete, &QPushButton::clicked, this, [this] { cmdDelete_Click(); });
     connect(cmdDeleteAll, &QPushButton::clicked, this, [this] { cmdDeleteAll_Click(); });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });

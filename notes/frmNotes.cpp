@@ -37,7 +37,7 @@ void UseUsualTermsPlace() {
 frmNotes::frmNotes() : Window("frmNotes", QStringLiteral("Notes")) {
     NotesWindowOpen = true;
     txtNotes = Named(new NoteTextBox, QStringLiteral("txtNotes"), QStringLiteral("Note"));
-    cmdFormat = Named(new QPushButton(QStringLiteral("Insert Time Line Format")), QStringLiteral("cmdFormat"),
+    cmdFormat = Named(new QPushButton(QStringLiteral("&Insert Time Line Format")), QStringLiteral("cmdFormat"),
                       QStringLiteral("Insert Time Line Format"));
     cmdFormat->setToolTip(QStringLiteral("Adds a line for each half hour from 06:00 AM to 11:30 PM"));
     buildMenus();

@@ -7,9 +7,12 @@
 #include <QSignalBlocker>
 #include <algorithm>
 
+#include "notes/modFUT.h"
 #include "shell/modPreferences.h"
 
 frmPref::frmPref() : Window("frmPref", QStringLiteral("Frequent Used Terms Preferences")) {
+    // The terms window, which opens together with the notes, stands above all others.
+    setWindowFlag(Qt::WindowStaysOnTopHint);
     makeControls();
     layOut();
     showPreferences();
@@ -81,9 +84,11 @@ bool frmPref::eventFilter(QObject* watched, QEvent* event) {
 void frmPref::txtStartPos_Change() { startPosition_ = std::max(txtStartPos->text().toInt() - 1, 0); }
 
 void frmPref::cmdSave_Click() {
-    if (SaveTermsPreferences(!chkACEnable->isChecked(), startPosition_, chkShowFUT->isChecked(),
-                             chkMinimizeFUT->isChecked()))
-        close();
+    if (!SaveTermsPreferences(!chkACEnable->isChecked(), startPosition_, chkShowFUT->isChecked(),
+                              chkMinimizeFUT->isChecked()))
+        return;
+    if (ShowTerms) ShowTerms();  // its button names what completion is switched to
+    close();
 }
 
 void frmPref::cmdExit_Click() { close(); }

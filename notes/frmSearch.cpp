@@ -25,7 +25,10 @@ frmSearch::frmSearch() : Window("frmSearch", QStringLiteral("Search for...")) {
     connect(cmdSearch, &QPushButton::clicked, this, [this] { cmdSearch_Click(); });
     connect(cmbPhrase->lineEdit(), &QLineEdit::returnPressed, this, [this] { cmdSearch_Click(); });
     connect(cmdOpen, &QPushButton::clicked, this, [this] { cmdOpen_Click(); });
-    connect(lstResults, &QListWidget::itemActivated, this, [this] { cmdOpen_Click(); });
+    connect(lstResults, &QListWidget::itemActivated, this, [this](QListWidgetItem* item) {
+        item->setSelected(true);  // Enter means the row that has the focus
+        cmdOpen_Click();
+    });
     connect(new QShortcut(Qt::Key_Escape, this), &QShortcut::activated, this, [this] { close(); });
     cmbPhrase->setFocus();
 }

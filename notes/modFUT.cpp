@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <array>
+#include <unordered_map>
 
 #include "base/dialogs.h"
 #include "base/files.h"
@@ -26,7 +27,7 @@ void TermsChanged() {
 std::vector<std::string> TermsFiles() {
     std::vector<std::string> names;
     for (const auto& entry : std::filesystem::directory_iterator(DataFolder())) {
-        const std::string name = TextOfUtf8(entry.path().filename().string());
+        const std::string name = TextOfPath(entry.path().filename());
         if (entry.is_regular_file() && name.size() > 4 &&
             EqualIgnoringCase(Middle(name, name.size() - 3), TermsExtension))
             names.push_back(name);
@@ -216,6 +217,7 @@ void MakeTermsFileDefault() {
         ShowMessage("File not found.");
     else
         SaveDefaultTermsFile(CurrentTermsFile);
+    TermsChanged();  // reading the preferences again may have switched completion
 }
 
 // -- Terms ------------------------------------------------------------------------------------------------------------
@@ -243,9 +245,12 @@ bool ChangeTerm(const std::string& term, std::string_view text) {
 }
 
 void RemoveTerms(const std::vector<std::string>& terms) {
-    for (const auto& term : terms)
-        if (const auto found = std::find(Terms.listed.begin(), Terms.listed.end(), term); found != Terms.listed.end())
-            Terms.listed.erase(found);
+    std::unordered_map<std::string, int> leaving;
+    for (const auto& term : terms) ++leaving[term];
+    std::erase_if(Terms.listed, [&](const auto& term) {
+        const auto found = leaving.find(term);
+        return found != leaving.end() && found->second-- > 0;
+    });
     SaveAndRead();
 }
 

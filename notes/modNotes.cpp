@@ -52,7 +52,13 @@ void Read(Year slot) {
     notes.year = YearOfSlot(slot);
     const Path folder = YearFolder(notes.year);
     if (!FolderExists(DataFolder(), folder.filename().string()) || !FileExists(folder, NotesFile)) return;
-    ReadDataLines(PathInFolder(folder, NotesFile), [slot](std::string_view line, int) { TakeLine(slot, line); });
+    const Path file = PathInFolder(folder, NotesFile);
+    bool whole = true;
+    ReadDataLines(file, [&](std::string_view line, int) {
+        TakeLine(slot, line);
+        whole = whole && line[8] == ':' && line[15] == ':';
+    });
+    if (!whole) MarkNotFullyRead(file);  // what stands in place of the colons is held nowhere
 }
 
 /// What the editor's text is compared with from now on.
@@ -136,8 +142,15 @@ bool Save(Year slot) {
     if (YearOf(Notes.openDate) != YearOfSlot(slot)) throw Error(InvalidCall);
     const auto text = NoteEditor.textToSave ? NoteEditor.textToSave() : std::string();
     if (!text || !MayTurnIntoLineBreaks(*text, "note")) return false;
-    StoreText(slot, *text);
-    WriteNotes(Notes.years[slot]);
+    // What could not be written must not go out with the next save: the user may yet give it up.
+    const NotesOfYear before = Notes.years[slot];
+    try {
+        StoreText(slot, *text);
+        WriteNotes(Notes.years[slot]);
+    } catch (...) {
+        Notes.years[slot] = before;
+        throw;
+    }
     SetOriginalText(*text);
     NotesChanged = false;
     return true;

@@ -82,7 +82,7 @@ bool OpenListedNote(int year, std::string_view key) {
     }
     SelectDate(*date);
     DisplayThisNote();
-    return NotesWindowOpen;
+    return NotesWindowOpen && Notes.openDate == *date;
 }
 
 void DeleteListedNotes(int year, const std::vector<std::string>& keys) {

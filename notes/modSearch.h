@@ -38,7 +38,7 @@ std::string SearchReport(std::size_t dates);
 std::optional<Year> ReadNotesOfYear(int year);
 
 /// Selects the date of a listed key and opens its note; "Couldn't find note to open." where it has none any more. True
-/// if an editor is open.
+/// if the editor shows it.
 bool OpenListedNote(int year, std::string_view key);
 
 /// Deletes all notes of the listed dates of the year. A note open in the editor is closed first, through its prompt; if

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 #include <string_view>
 #include <variant>
 
@@ -48,6 +49,8 @@ float DecimalValue(std::string_view text) {
     float number = 0;
     const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number);
     if (failure != std::errc() || end != text.data() + text.size()) throw Error(TypeMismatch);
+    constexpr float Farthest = 1e6F;  // twips: beyond every screen
+    if (!(std::abs(number) <= Farthest)) throw Error(Overflow);
     return number;
 }
 

@@ -7,16 +7,25 @@
 #include "base/text.h"
 
 namespace {
-/// The codes of the text; the characters that have none are added to `misfits`, each once.
-std::string Encoded(const QString& shown, QString& misfits) {
+constexpr int MostNames = 40;  // a message names no more: it must fit the screen
+
+/// The character itself, or the number of one that cannot be seen.
+QString NameOf(char32_t character) {
+    if (QChar::isPrint(character) && !QChar::isSpace(character)) return QString::fromUcs4(&character, 1);
+    return QStringLiteral("U+%1").arg(static_cast<uint>(character), 4, 16, QLatin1Char('0')).toUpper();
+}
+
+/// The codes of the text; the names of the characters that have none are added to `misfits`, each once, "..." for many.
+std::string Encoded(const QString& shown, QStringList& misfits) {
     const QString composed = shown.normalized(QString::NormalizationForm_C);
     std::string text;
     text.reserve(static_cast<std::size_t>(composed.size()));
     for (const char32_t character : composed.toStdU32String()) {
         const int code = CodeOf(character);
         text += code < 0 ? '?' : static_cast<char>(code);
-        const QString one = QString::fromUcs4(&character, 1);
-        if (code < 0 && !misfits.contains(one)) misfits += (misfits.isEmpty() ? QString() : QStringLiteral(" ")) + one;
+        if (code >= 0 || misfits.size() > MostNames) continue;
+        const QString name = misfits.size() < MostNames ? NameOf(character) : QStringLiteral("...");
+        if (!misfits.contains(NameOf(character))) misfits << name;
     }
     return text;
 }
@@ -31,15 +40,15 @@ QString FromText(std::string_view text) {
 }
 
 std::string ToText(const QString& shown) {
-    QString misfits;
+    QStringList misfits;
     return Encoded(shown, misfits);
 }
 
 std::optional<std::string> TextToSave(const QString& typed) {
-    QString misfits;
+    QStringList misfits;
     std::string text = Encoded(typed, misfits);
     if (misfits.isEmpty()) return text;
-    ShowUtf8Message(MisfitMessage(misfits.toStdString()));
+    ShowUtf8Message(MisfitMessage(misfits.join(u' ').toStdString()));
     return std::nullopt;
 }
 

@@ -4,6 +4,7 @@
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"
 #include "notes/frmNotes.h"
+#include "notes/frmPref.h"
 #include "notes/modFUT.h"
 #include "notes/modNotes.h"
 #include "shell/modPreferences.h"
@@ -57,6 +58,38 @@ TEST_F(TermsWindow, AddsEditsAndRemovesTerms) {
     EXPECT_EQ(window->lstFUT->item(0)->text(), QStringLiteral("Animal Doctor"));
     window->cmdOpt[2]->click();
     EXPECT_FALSE(AutoCompleteOn);
+    // Reading the preferences again switches completion, and the button says so.
+    window->item(QStringLiteral("mnuFileDefaultFUT"))->trigger();
+    EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Disable Auto Complete"));
+    auto* preferences = ShowWindow<frmPref>();
+    EXPECT_TRUE(preferences->windowFlags().testFlag(Qt::WindowStaysOnTopHint));  // as the terms window is
+    preferences->chkACEnable->click();
+    preferences->cmdSave->click();
+    EXPECT_EQ(window->cmdOpt[2]->text(), QStringLiteral("Enable Auto Complete"));
+}
+
+TEST_F(TermsWindow, AsksBeforeTypedTermsGo) {
+    window->cmdOpt[0]->click();
+    auto* add = OpenedWindow<frmAddFUT>();
+    add->txtAddFUT->setPlainText(QStringLiteral("plumber"));
+    for (const Answer answer : {Answer::Cancel, Answer::Yes}) {
+        dialogs.expect("The terms have not been saved.", answer);
+        EXPECT_EQ(add->close(), answer == Answer::Yes);
+    }
+    EXPECT_EQ(folder.get("Home.fut"), "dentist\r\nplumber\r\nvet");
+    select(0);
+    window->cmdOpt[1]->click();
+    auto* edit = OpenedWindow<frmEditFUT>();
+    edit->txtEditFUT->setText(QStringLiteral("doctore\u0301"));
+    select(2);
+    dialogs.expect("The term has been changed.", Answer::Cancel);
+    window->cmdOpt[1]->click();
+    EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("doctore\u0301"));
+    dialogs.expect("The term has been changed.", Answer::Yes);
+    window->cmdOpt[1]->click();
+    EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
+    EXPECT_TRUE(edit->close());
+    EXPECT_EQ(folder.get("Home.fut"), "doctor\xE9\r\nplumber\r\nvet");
 }
 
 TEST_F(TermsWindow, PutsTermsIntoTheNoteAndSwitchesListsFromThere) {
@@ -90,6 +123,10 @@ TEST_F(TermsWindow, OpensWhereItCanBeSeenAndAsThePreferencesSay) {
     window->move(50, 60);
     window->resize(220, 440);
     const TermsPlace placed = Preferences.termsPlace;
+    CloseTermsWindow();
+    Preferences.termsPlace = {750, 900, 0, -9};
+    OpenTermsWindow();
+    EXPECT_TRUE(OpenedWindow<frmFUT>()->width() > 50 && OpenedWindow<frmFUT>()->height() > 100);
     CloseTermsWindow();
     Preferences.termsPlace = {150000, -90000, 3000, 6000};
     Preferences.minimizeTerms = true;

@@ -34,8 +34,8 @@ TEST_F(NoteWindows, ListAYearAMonthAndAYearTyped) {
     window->cmbYear->setEditText(QStringLiteral("2041"));
     QTest::keyClick(window->cmbYear, Qt::Key_Return);
     EXPECT_EQ(shown(window->lst), " 03/01/41");
-    window->lst->setCurrentRow(0);
-    window->cmdOpen->click();
+    window->lst->setCurrentRow(0, QItemSelectionModel::NoUpdate);  // as the list is when it gets the focus
+    QTest::keyClick(window->lst, Qt::Key_Return);
     EXPECT_EQ(OpenedWindow<frmNotes>()->txtNotes->toPlainText(), QStringLiteral("far away"));
     window->cmbYear->setEditText(QStringLiteral("9"));
     window->cmdLoad->click();
@@ -85,13 +85,22 @@ TEST_F(NoteWindows, SearchAndOpenWithThePhraseSelected) {
     }
     EXPECT_EQ(window->cmbPhrase->count(), 4);
     EXPECT_EQ(shown(window->lstResults), " 03/04/26 03/09/26");
-    window->lstResults->setCurrentRow(1);
-    window->cmdOpen->click();
+    window->lstResults->setCurrentRow(1, QItemSelectionModel::NoUpdate);
+    QTest::keyClick(window->lstResults, Qt::Key_Return);
     auto* editor = OpenedWindow<frmNotes>();
     EXPECT_EQ(editor->txtNotes->textCursor().selectedText(), QStringLiteral("LUNCH"));
     EXPECT_TRUE(editor->item(QStringLiteral("mnuEdit"))->isEnabled());
     window->close();
     EXPECT_FALSE(SearchActive);
     EXPECT_FALSE(editor->item(QStringLiteral("mnuEditSearchAgain"))->isEnabled());
+    // A note that stays in the editor was not opened by the search.
+    window = ShowWindow<frmSearch>();
+    window->cmbPhrase->setEditText(QStringLiteral("vet"));
+    click(window->cmdSearch, "Search Phrase appears on 1 date");
+    QTest::keyClicks(editor->txtNotes, QStringLiteral("!"));
+    window->lstResults->setCurrentRow(0);
+    dialogs.expect("Text has been changed", Answer::Cancel);
+    window->cmdOpen->click();
+    EXPECT_FALSE(SearchActive);
 }
 }  // namespace

@@ -138,11 +138,14 @@ TEST_F(EditorTest, SavesEveryCharacterOfTheCodePage) {
     EXPECT_TRUE(NotesChanged);
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_FALSE(NotesChanged) << "the text is again what was saved";
-    box->insertPlainText(QStringLiteral("\u4E2D"));
-    dialogs.expect("\u4E2D");
+    box->insertPlainText(QStringLiteral("\u4E2D\u200B\u202F"));
+    dialogs.expect("\u4E2D U+200B U+202F");
     window->item(QStringLiteral("mnuFileSave"))->trigger();
     EXPECT_TRUE(NotesChanged);
     EXPECT_TRUE(box->toPlainText().contains(QChar(0x4E2D)));
+    for (char16_t character = 0x4E2D; character < 0x4F00; ++character) box->insertPlainText(QChar(character));
+    dialogs.expect(QString(QChar(0x4E2D + 37)).toStdString() + " ...\r\n");  // the first 40, two of them above
+    window->item(QStringLiteral("mnuFileSave"))->trigger();
 }
 
 TEST_F(EditorTest, ClosesThroughItsPrompt) {
@@ -177,7 +180,8 @@ TEST_F(EditorTest, FindsThePhraseAgainAndAgain) {
 TEST_F(EditorTest, TakesTheTimeLineAndDroppedTerms) {
     open();
     type("x");
-    window->cmdFormat->click();
+    press(Qt::Key_I, Qt::AltModifier);  // the Tab key writes tabs here
+    EXPECT_TRUE(QTest::qWaitFor([&] { return box->length() > 1; }));
     EXPECT_TRUE(shown().starts_with("x\n06:00 AM - |\n\n06:30 AM - \n\n")) << shown();
     EXPECT_EQ(box->document()->blockCount(), 2 + 72);
     const auto drop = [&] {

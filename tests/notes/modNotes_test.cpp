@@ -111,6 +111,12 @@ TEST_F(NotesTest, MarkTheDayOfTheirDateWhateverTheCellAndNoneForWhatIsNoDate) {
     ReadThisYearsNotes();
     ForEachCell([](Cell cell) { EXPECT_EQ(NoteFlags[cell], cell == CellOf(MakeDate(2026, 3, 4))); });
     EXPECT_EQ(NoteCount(), 4);
+    const std::string withoutColon = "03/04/26:020300Hello\r\n";
+    folder.put("2026/Notes.dat", withoutColon);
+    ReadThisYearsNotes();
+    dialogs.expect("Backup");
+    DeleteNotes(ThisYear, {});
+    EXPECT_EQ(folder.backups(), withoutColon);
 }
 
 TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
@@ -128,6 +134,7 @@ TEST_F(NotesTest, StayUnsavedWhenTheSaveIsRefusedOrFails) {
     EXPECT_FALSE(SaveOpenNote());
     EXPECT_TRUE(NotesChanged);
     EXPECT_EQ(file(), "03/04/26:020300:saved\r\n");
+    EXPECT_EQ(NoteOf(ThisYear, MakeDate(2026, 3, 4)), "saved");  // nor is it saved along with another note
     SetDisk({});
     dialogs.expect("turn", Answer::Yes).expect("Notes Saved");
     EXPECT_TRUE(SaveOpenNote());

@@ -36,6 +36,12 @@ TEST_F(PreferencesTest, AreReadByPositionAndOnlyTheirOwnLinesAreReplaced) {
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "Backup"));
     EXPECT_TRUE(SaveTermsPlace({-150, 30, 4000, 5000.5}));
     EXPECT_EQ(folder.get(File), With("FUT", "FUT Position:Left=-150:Top=30:Width=4000:Height=5000.5") + "more\r\n");
+    for (const char* place : {"Left=nan", "Top=-1e30", "Width=inf"}) {
+        folder.put(File, With("FUT", std::string("FUT Position:") + place));
+        dialogs.expect("Number: 6");
+        GetUserPreferences();
+    }
+    EXPECT_EQ(Preferences.termsPlace, TermsPlace({-150, 30, 4000, 5000.5}));
 }
 
 TEST_F(PreferencesTest, ReportFaultsKeepWhatWasReadBeforeAndLoseNothing) {
