@@ -229,12 +229,6 @@ std::string NoteOf(Year slot, Date date) {
     return text;
 }
 
-bool HasNote(Date date) {
-    for (const Year slot : {ThisYear, NextYear})
-        if (Notes.years[slot].year == YearOf(date)) return Notes.years[slot].flags[CellOf(date)];
-    return false;
-}
-
 void DisplayThisNote() {
     Reporting("DisplayThisNote", [] {
         const Date date = SelectedDate;

@@ -86,9 +86,6 @@ std::optional<Date> DateOfNoteKey(int year, std::string_view key);
 /// one another. "" where there is none.
 std::string NoteOf(Year slot, Date date);
 
-/// True if the date has a note; looks at what the slots hold and loads nothing.
-bool HasNote(Date date);
-
 /// Opens the editor on the note of SelectedDate. An open editor is closed first, through its prompt; kept open by the
 /// user, it stays and nothing is opened.
 void DisplayThisNote();
