@@ -19,8 +19,6 @@ TEST(Dates, AgreeWithAWalkOverAllDays) {
             }
     }
     EXPECT_EQ(number - 1, 2958465);  // 31 December 9999
-    EXPECT_EQ(MakeDate(1899, 12, 30).number, 0);
-    EXPECT_EQ(MakeDate(2009, 1, 1).number, 39814);
 }
 
 TEST(Dates, ThatDoNotExistAreRefused) {

@@ -46,7 +46,7 @@ TEST_F(Selection, DoubleClickOpensTheNoteOnlyOfTheDayLastClicked) {
     NoteEditor = {};
 }
 
-TEST_F(Selection, HoverNamesWhatIsOnTheDay) {
+TEST_F(Selection, HoverNamesWhatIsOnTheDayAndIsSilentAboutHiddenCategories) {
     putData();
     using Row = std::tuple<int, int, const char*>;
     const Row rows[] = {{3, 2, "Meeting: Dentist 9:30"},
@@ -55,24 +55,19 @@ TEST_F(Selection, HoverNamesWhatIsOnTheDay) {
                         {7, 4, "Birthday: Anna, Ben, Holiday: Independence Day"},  // marked in the Birthday colour, too
                         {11, 22, "Today's Date"},
                         {12, 25, "Holiday: Christmas Day"}};
-    show(12, 2026, 1, 1);
-    for (const auto& [month, day, text] : rows) EXPECT_EQ(hoverText(2026, month, day), text) << month << "/" << day;
-    for (const auto& [month, day, text] : rows) {
-        show(1, 2026, month, 10);
-        EXPECT_EQ(hoverText(2026, month, day), text) << month << "/" << day;
-    }
+    for (const int view : {12, 1})
+        for (const auto& [month, day, text] : rows) {
+            show(view, 2026, month, 10);
+            EXPECT_EQ(hoverText(2026, month, day), text) << month << "/" << day;
+        }
     click(2026, 12, 25);
     EXPECT_EQ(holidayLabel, "Holiday = Christmas Day");
     show(6, 2026, 12, 1);
     EXPECT_EQ(hoverText(2027, 3, 2), "Meeting: Budget");
-}
 
-TEST_F(Selection, HiddenCategoriesAreSilent) {
-    putData();
     MarkerHidden[HolidayCategory] = MarkerHidden[9] = true;
     show(12, 2026, 1, 1);
-    EXPECT_EQ(hoverText(2026, 12, 25), "");
-    EXPECT_EQ(hoverText(2026, 3, 2), "");
+    EXPECT_EQ(hoverText(2026, 12, 25) + hoverText(2026, 3, 2), "");
     EXPECT_EQ(hoverText(2026, 7, 4), "Birthday: Anna, Ben");
 }
 

@@ -1,20 +1,25 @@
-// The window of captions and colours.
+// The windows of the categories: captions and colours, and which are displayed.
 #include "marks/frmColors.h"
+#include "marks/frmMarkers.h"
+#include "marks/modMarkerDisplay.h"
 
 #include "tests/support/window_test.h"
 
 namespace {
-struct ColorsWindow : WindowTest {
+struct CategoryWindows : WindowTest {
     std::string file;
-    frmColors* window = nullptr;
 
-    ColorsWindow() {
+    CategoryWindows() {
         for (std::size_t k = 0; k < CategoryCount; ++k)
             file += MarkerCaption[k] + ":" + std::to_string(MarkerPalette[k]) + (k == 3 ? "*" : "") + CrLf;
         folder.put("Marker Colors.dat", file);
         ReadMarkerColors();
-        window = ShowWindow<frmColors>();
     }
+};
+
+struct ColorsWindow : CategoryWindows {
+    frmColors* window = ShowWindow<frmColors>();
+
     void click(int label) const {
         QTest::mouseClick(window->lblMarker[static_cast<std::size_t>(label)], Qt::LeftButton);
     }
@@ -28,20 +33,17 @@ struct ColorsWindow : WindowTest {
 TEST_F(ColorsWindow, ClickSelectsALabelForEditing) {
     QTest::mouseClick(window->cmdColor[15], Qt::LeftButton);
     click(9);
-    EXPECT_TRUE(window->lblMarker[9]->hasBorder());
     EXPECT_EQ(window->txtEdit->selectedText(), QStringLiteral("Meeting"));
     click(7);
-    EXPECT_FALSE(window->lblMarker[9]->hasBorder());
+    EXPECT_TRUE(window->lblMarker[7]->hasBorder() && !window->lblMarker[9]->hasBorder());
     QTest::mouseClick(window->cmdColor[15], Qt::LeftButton);
     QApplication::clipboard()->setText(QStringLiteral("F\u00EAte\r\n& more"));
     window->txtEdit->paste();
     EXPECT_EQ(window->lblMarker[7]->text(), QStringLiteral("F\u00EAte & more")) << "one line of the file";
     dialogs.expect("Marker Colors Saved.");
     window->cmdSave->click();
-    std::string wanted = file;
-    wanted.replace(wanted.find("Event:32768"), 11, "F\xEAte & more:8421504");
-    std::erase(wanted, '*');
-    EXPECT_EQ(folder.get("Marker Colors.dat"), wanted);
+    EXPECT_EQ(folder.get("Marker Colors.dat"),
+              Replaced(Replaced(file, "Event:32768", "F\xEAte & more:8421504"), "*", ""));
     EXPECT_EQ(OpenedWindow<frmColors>(), nullptr);
     EXPECT_FALSE(MarkersLoaded);
 }
@@ -65,7 +67,6 @@ TEST_F(ColorsWindow, ArrowKeysWalkOverTheLabels) {
         QTest::keyClick(window->focusWidget(), key);
         EXPECT_EQ(window->focusWidget(), window->lblMarker[static_cast<std::size_t>(label)]);
     }
-    EXPECT_TRUE(window->lblMarker[1]->hasBorder());
     window->cmdColor[0]->setFocus();
     QTest::keyClick(window->focusWidget(), Qt::Key_Down);
     QTest::keyClick(window->focusWidget(), Qt::Key_Right);
@@ -74,7 +75,7 @@ TEST_F(ColorsWindow, ArrowKeysWalkOverTheLabels) {
     window->cmdExit->click();
 }
 
-TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
+TEST_F(ColorsWindow, EditsOutliveRefusedSavesASaveFromElsewhereAndACancelledClosing) {
     click(0);
     for (const auto& [caption, message] :
          {std::pair{QStringLiteral("a:b"), "separates the caption"}, {QStringLiteral("\u4F60"), "cannot be saved"}}) {
@@ -84,22 +85,43 @@ TEST_F(ColorsWindow, RefusedSavesKeepTheWindowAndTheFile) {
         EXPECT_EQ(window->lblMarker[0]->text(), caption);
     }
     EXPECT_EQ(folder.get("Marker Colors.dat"), file);
-    EXPECT_EQ(OpenedWindow<frmColors>(), window);
-}
-
-TEST_F(ColorsWindow, EditsSurviveASaveFromElsewhereAndClosingAsksAboutThem) {
-    click(0);
-    type(QStringLiteral("Bills"));
     dialogs.expect("Marker Colors Saved.");
     SaveHiddenMarks = true;
     EXPECT_TRUE(SaveMarkerColors());
     ReadMarkerColors();
-    EXPECT_EQ(folder.get("Marker Colors.dat"), file);
-    EXPECT_EQ(window->lblMarker[0]->text(), QStringLiteral("Bills"));
+    EXPECT_EQ(window->lblMarker[0]->text(), QStringLiteral("\u4F60"));
     dialogs.expect("save the changes", Answer::Cancel);
     EXPECT_FALSE(window->close());
     dialogs.expect("save the changes", Answer::No);
     EXPECT_TRUE(window->close());
     EXPECT_EQ(ShowWindow<frmColors>()->lblMarker[0]->text(), QStringLiteral("Account Payable"));
     EXPECT_EQ(folder.get("Marker Colors.dat"), file);
+}
+
+TEST_F(CategoryWindows, BoxesAndTablesFollowEachOther) {
+    const auto* window = ShowWindow<frmMarkers>();
+    const auto& boxes = window->chkMarker;
+    const auto checked = [&] { return std::count_if(boxes.begin(), boxes.end(), std::mem_fn(&QCheckBox::isChecked)); };
+    EXPECT_EQ(checked(), 13);
+    boxes[11]->click();
+    EXPECT_TRUE(MarkerHidden[TodaysDateCategory]);
+    ShowCategory(3, true);
+    EXPECT_TRUE(boxes[3]->isChecked());
+    window->cmdCheck[1]->click();
+    EXPECT_TRUE(checked() == 14 && TodayShown);
+    window->cmdCheck[0]->click();
+    EXPECT_TRUE(checked() == 0 && !TodayShown);
+    dialogs.expect("Marker Colors Saved.");
+    window->cmdSave->click();
+    const std::string saved = folder.get("Marker Colors.dat");
+    EXPECT_EQ(std::count(saved.begin(), saved.end(), '*'), 14);
+}
+
+TEST_F(CategoryWindows, LongCaptionsLeaveTheWindowOnTheScreen) {
+    const auto* window = ShowWindow<frmMarkers>();
+    for (auto& caption : MarkerCaption) caption = std::string(300, 'x');
+    ShowCategories();
+    QCoreApplication::processEvents();
+    EXPECT_LE(window->sizeHint().width(), 800);
+    EXPECT_EQ(window->chkMarker[0]->accessibleName().size(), 300);
 }

@@ -18,7 +18,7 @@ struct IconWindows : WindowTest {
     }
 };
 
-TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
+TEST_F(IconWindows, TheLibraryHasEveryPictureAndTakesItInItsOwnSizeWhereThereIsOne) {
     for (int picture = 0; picture < LibrarySize; ++picture) {
         QSet<int> sides;
         for (const QImage& image : ReadPictures(PictureFile(picture))) sides.insert(image.width());
@@ -28,9 +28,6 @@ TEST_F(IconWindows, TheLibraryHasEveryPictureInFourSizes) {
     std::set<std::string> captions(IconCaption.begin(), IconCaption.end());
     EXPECT_TRUE(captions.size() == PaletteSize && !captions.contains(""));
     EXPECT_TRUE(folder.has("Images/License of the pictures.txt"));
-}
-
-TEST_F(IconWindows, PicturesAreTakenInTheirOwnSizeWhereThereIsOne) {
     const auto pictures = ReadPictures(PictureFile(12));
     for (const int side : {16, 24, 32, 48, 20, 40}) EXPECT_EQ(PictureOfSide(pictures, side).width(), side);
     EXPECT_EQ(PictureOfSide(pictures, 24), pictures[1]);
@@ -49,10 +46,12 @@ TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     EXPECT_EQ(IconPixmap(7, 24, 1).toImage(), IconPixmap(9, 24, 1).toImage());
 }
 
-TEST_F(IconWindows, TheManagerChangesASlot) {
+TEST_F(IconWindows, TheManagerChangesASlotAndNothingIsDraggedWithoutAMonth) {
     ShowPaletteWindow();
-    auto* palette = OpenedWindow<frmIcons>();
-    auto* dentist = Find<IconImage>(palette, QStringLiteral("imgIcon(12)"));
+    auto* dentist = Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(12)"));
+    dialogs.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
+    QTest::mouseClick(dentist, Qt::LeftButton);
+    EXPECT_EQ(DragKind, Drag::None);
     QTest::mouseClick(dentist, Qt::RightButton);
     auto* manager = OpenedWindow<frmIconTag>();
     auto* caption = Find<QLineEdit>(manager, QStringLiteral("txtTag"));
@@ -81,13 +80,6 @@ TEST_F(IconWindows, TheManagerChangesASlot) {
     EXPECT_EQ(OpenedWindow<frmIconTag>(), nullptr);
     EXPECT_TRUE(dentist->toolTip() == QStringLiteral("Dr. Müller: teeth") && dentist->picture() == 143);
     EXPECT_NE(folder.get("Icon Tags.dat").find("143:Dr. M\xFCller: teeth\r\n013:"), std::string::npos);
-}
-
-TEST_F(IconWindows, NothingIsDraggedWithoutAMonth) {
-    ShowPaletteWindow();
-    dialogs.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
-    QTest::mouseClick(Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(0)")), Qt::LeftButton);
-    EXPECT_EQ(DragKind, Drag::None);
 }
 
 TEST_F(IconWindows, DropsShowTheIconOnItsDay) {

@@ -4,13 +4,13 @@
 #include "marks/modIcons.h"
 #include "marks/modPrint.h"
 #include "tests/marks/month.h"
-#include "tests/support/dialogs.h"
+#include "tests/support/planner.h"
 #include "tests/support/window_pdf.h"
 
 namespace {
-TEST(PrintedMonth, FitsTheSheet) {
-    TemporaryFolder folder;
-    ScriptedDialogs boxes;
+using PrintedMonth = PlannerTest;
+
+TEST_F(PrintedMonth, FitsTheSheet) {
     std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive);
     folder.put("Marker Colors.dat", CategoryLines);
     folder.put("2026/Jul_Icons.dat", "00:00 Index:12\r\n30:03 Index:95\r\n");

@@ -8,11 +8,8 @@ const std::string File = "Marker Colors.dat";
 const std::string Starless = CategoryLines;
 const std::string Full = Replaced(Replaced(Starless, "Holiday:255", "Holiday:255*"), "Travel:65280", "Travel:65280*");
 
-/// A file with the line of Birthday replaced.
-std::string With(const std::string& line, std::string file = Full) {
-    const std::string old = "Birthday:8388736";
-    return file.replace(file.find(old), old.size(), line);
-}
+/// The file with another line for Birthday.
+std::string With(const std::string& line) { return Replaced(Full, "Birthday:8388736", line); }
 
 struct CategoriesTest : PlannerTest {
     void read(const std::string& bytes) {
@@ -26,11 +23,8 @@ std::size_t Hidden() { return static_cast<std::size_t>(std::count(MarkerHidden.b
 
 TEST_F(CategoriesTest, AreReadAndSavedWithAndWithoutTheStars) {
     read(Full);
-    EXPECT_EQ(MarkerCaption[12], "Travel");
     EXPECT_EQ(MarkerTextColor[6], 0x00FFFFu) << "yellow on brown";
-    EXPECT_TRUE(MarkersLoaded && MarkerHidden[8] && MarkerHidden[12]);
-    EXPECT_EQ(CategoryOfColor(0x0000FF), 8);
-    EXPECT_EQ(CategoryOfColor(0x808080), std::nullopt);
+    EXPECT_TRUE(MarkersLoaded && MarkerHidden[8] && MarkerHidden[12] && !CategoryOfColor(0x808080));
     for (const bool withStars : {true, false}) {
         SaveHiddenMarks = withStars;
         dialogs.expect("Marker Colors Saved.");
@@ -84,7 +78,7 @@ TEST_F(CategoriesTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
                 {With("Birthday:-1"), "Number: 6", 4},
                 {With("Birthday:16777216"), "Number: 6", 4},
                 {With(std::string(20, '\0')), "Number: 13", 4},
-                {With("Birthday: 8388736", Starless), "", 14},
+                {Replaced(Starless, "Birthday:", "Birthday: "), "", 14},
                 {"", "Number: 62", 0}},
                read, save);
 }
@@ -105,7 +99,6 @@ TEST_F(CategoriesTest, SurviveBeingCutAtEveryByte) {
 TEST_F(CategoriesTest, MissingFileLeavesTheCaptionsAndAFailedSaveTheLabels) {
     dialogs.expect("Number: 53");
     ReadMarkerColors();
-    EXPECT_EQ(MarkerCaption[9], "Meeting");
     EXPECT_EQ(CategoryOfColor(0), std::nullopt);
     auto edited = MarkerLabels;
     for (std::size_t k = 0; k < CategoryCount; ++k) edited[k] = {"Talk", MarkerPalette[k], White};

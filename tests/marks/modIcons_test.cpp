@@ -41,34 +41,18 @@ struct IconsTest : PlannerTest {
     }
 };
 
-TEST_F(IconsTest, ReadsLinesAndRefusesWhatIsNone) {
-    EXPECT_EQ(IconLineOf("06:02 Index:41"), (IconLine{6, 2, 41}));
-    EXPECT_EQ(TextOfIconLine({30, 0, 7}), "30:00 Index:07");
-    for (const char* line : {"", "06:02", "xx:02 Index:41", "06:02 Index:"})
-        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), TypeMismatch) << line;
-    for (const char* line : {"31:02 Index:41", "06:04 Index:41", "06:02 Index:96", "06:02 Index:-1"})
-        EXPECT_EQ(ErrorOf([&] { IconLineOf(line); }), SubscriptOutOfRange) << line;
-}
-
-TEST_F(IconsTest, MonthFilesPlaceAndSurviveSaving) {
+TEST_F(IconsTest, AMonthShowsItsFileOrTheTemplate) {
     const std::string file = "06:02 Index:41\r\n06:00 Index:07\r\n29:03 Index:95\r\n30:00 Index:00\r\n";
+    EXPECT_EQ(Draw(2026, 4), MonthIcons::Untouched);
     folder.put("2026/Apr_Icons.dat", file);
     EXPECT_EQ(Draw(2026, 4), MonthIcons::Modified);
-    EXPECT_EQ(MonthIconCount, 4);
     EXPECT_EQ(Visible(), "06:02 Index:41|06:00 Index:07|29:03 Index:95|");  // April has no 31st
     // The 7th of April 2026 is a Tuesday in the second row.
     EXPECT_DOUBLE_EQ(IconPool[0].left, 2.52);
     EXPECT_DOUBLE_EQ(IconPool[0].top, 2.45);
-    EXPECT_TRUE(IconSlotUsed[2][6]);
-    EXPECT_EQ(IconCaption[41], "Caption 41");
     EXPECT_EQ(saved("2026/Apr_Icons.dat"), file);
     EXPECT_EQ(folder.backups(), "");
-}
-
-TEST_F(IconsTest, SaysWhatAMonthShows) {
-    EXPECT_EQ(Draw(2026, 4), MonthIcons::Untouched);
     folder.put("2026/Apr_Icons.dat", "");
-    EXPECT_EQ(Draw(2026, 4), MonthIcons::MarksOnly);
     folder.put("Template.dat", "05:00 Index:03\r\n");
     EXPECT_EQ(Draw(2026, 4), MonthIcons::MarksOnly);
     EXPECT_FALSE(AnyIconPlaced());
@@ -180,16 +164,25 @@ TEST_F(IconsTest, TheTemplateTakesNothingOnItsLastDaysButOne) {
 TEST_F(IconsTest, BadFilesAreReportedAndKept) {
     std::string full;
     for (int i = 0; i < MostIcons; ++i) full += TextOfIconLine({i / 4, i % 4, 5}) + "\r\n";
-    for (const auto& [file, placed] : {std::pair{std::string("06:00 Index:41\r\n\r\n07:00 Index:42\r\n"), 1},
-                                       {"06:00 Index:41\r\n07:00 Index:96\r\n", 1},
-                                       {full + "00:00 Index:05\r\n", MostIcons}}) {
+    const std::string one = "06:00 Index:41\r\n";
+    for (const auto& [before, bad, error] : {std::tuple{one, "", "13"},
+                                             {one, "06:02", "13"},
+                                             {one, "xx:02 Index:41", "13"},
+                                             {one, "06:02 Index:", "13"},
+                                             {one, "31:02 Index:41", "9"},
+                                             {one, "06:04 Index:41", "9"},
+                                             {one, "06:02 Index:96", "9"},
+                                             {one, "06:02 Index:-1", "9"},
+                                             {full, "00:00 Index:05", "9"}}) {
+        SCOPED_TRACE(bad);
+        const std::string file = before + bad + "\r\n07:00 Index:42\r\n";
         folder.put("2026/May_Icons.dat", file);
-        dialogs.expect("An error occurred in Read1MonthIcons.");
+        dialogs.expect(std::string("An error occurred in Read1MonthIcons.\r\nError Number: ") + error);
         EXPECT_EQ(Draw(2026, 5), MonthIcons::Modified);
-        EXPECT_EQ(MonthIconCount, placed) << file;
+        EXPECT_EQ(MonthIconCount, before == full ? MostIcons : 1);
         dialogs.expect("in the folder \"Backup\"");
         EXPECT_TRUE(Save1MonthIcons());
-        EXPECT_NE(folder.backups().find(file), std::string::npos) << file;
+        EXPECT_NE(folder.backups().find(file), std::string::npos);
     }
 }
 

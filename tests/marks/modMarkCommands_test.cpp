@@ -1,6 +1,7 @@
-// Marking days in the views, and taking marks away.
+// Marking days in the views, attaching hover texts, and taking marks away.
 #include "marks/modMarkCommands.h"
 
+#include "marks/modHoverText.h"
 #include "marks/modLabels.h"
 #include "marks/modMarkerDisplay.h"
 #include "marks/modMarks.h"
@@ -42,6 +43,27 @@ TEST_F(MarkCommands, MarkIsPaintedSavedAndGivenItsText) {
     }
 }
 
+TEST_F(MarkCommands, HoverTextIsSavedWithItsMarkAndAnEmptyOneChangesNothing) {
+    folder.put("2026Marks.dat", "08:03:01:255-old");
+    folder.put("2027Marks.dat", "00:03:01:255");
+    show(6, 2026, 9, 1);
+    click(2026, 9, 9);
+    for (const auto& [answer, saved] :
+         {std::pair{"", "old"}, {"Lunch - 12:30", "Lunch - 12:30"}, {"two\r\nlines", "two  lines"}}) {
+        dialogs.expectInput("Optional Hover Text for Sep 09, 2026", answer);
+        AttachHoverText();
+        EXPECT_EQ(file(), std::string("08:03:01:255-") + saved);
+    }
+    EXPECT_EQ(dialogs.shown()[1].preset, "old");
+    click(2027, 1, 6);
+    dialogs.expectInput("Jan 06, 2027", "Winter");
+    AttachHoverText();
+    EXPECT_EQ(file(2026) + file(2027), "08:03:01:255-two  lines00:03:01:255-Winter");
+    click(2026, 9, 10);
+    dialogs.expect("Mark the date first.");
+    AttachHoverText();
+}
+
 TEST_F(MarkCommands, ClearedMarkIsGoneAndItsTextReturnsWithTheNextMark) {
     show(6, 2026, 2, 1);
     click(2026, 5, 5);
@@ -54,7 +76,7 @@ TEST_F(MarkCommands, ClearedMarkIsGoneAndItsTextReturnsWithTheNextMark) {
     EXPECT_EQ(file(), "04:02:01:8421376-typed with care");
 }
 
-TEST_F(MarkCommands, DayOfNextYearGoesToItsOwnFile) {
+TEST_F(MarkCommands, DaysOfOtherYearsGoToTheirOwnFiles) {
     folder.put("2026Marks.dat", "01:03:01:255");
     show(6, 2026, 9, 1);
     click(2027, 1, 6);
@@ -68,10 +90,8 @@ TEST_F(MarkCommands, DayOfNextYearGoesToItsOwnFile) {
     EXPECT_EQ(painted(2026, 9, 1), Black) << "the months on display stay";
     QuickMarkSelectedDate();
     EXPECT_EQ(file(2027), "00:03:01:8421376-far") << "the selected day is still the one of next year";
-}
 
-TEST_F(MarkCommands, DayOfAYearThatIsNotLoadedLoadsIt) {
-    folder.put("2030Marks.dat", "00:02:00:255-kept");
+    folder.put("2030Marks.dat", "00:02:00:255-kept");  // is not loaded
     show(12, 2026, 2, 1);
     SelectDate(MakeDate(2030, 1, 2));
     QuickMarkSelectedDate();
@@ -87,6 +107,7 @@ TEST_F(MarkCommands, EmptyCellsTakeNoMark) {
         MarkSelectedDateAs(MeetingItem);
         QuickMarkSelectedDate();
         ClearMarkFromSelectedDate();
+        AttachHoverText();
     }
     EXPECT_EQ(file(2026) + file(2027), "(none)(none)");
 }
@@ -175,7 +196,6 @@ TEST_F(MarkCommands, HidingACategoryRepaintsItsDaysAndSavesNothing) {
     EXPECT_EQ(file(), "01:03:01:255-x\r\n01:04:01:8421376");
     ShowAllMarks();
     show(1, 2026, 2, 1);
-    EXPECT_EQ(DayLabels.labels.size(), 3u) << "a holiday and two marks";
     ShowCategory(9, false);
-    EXPECT_EQ(DayLabels.labels.size(), 2u) << "the day labels follow at once";
+    EXPECT_EQ(DayLabels.labels.size(), 2u) << "the label of the day goes at once, a holiday and a mark stay";
 }

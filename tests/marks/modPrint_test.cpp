@@ -42,9 +42,7 @@ TEST_F(PrintTest, DrawsTheMonth) {
         EXPECT_TRUE(page->has(call)) << call;
     EXPECT_EQ(page->containing("picture").size(), 1u);  // the other could not be read
     EXPECT_EQ(page->containing("line").size(), 16u);
-    EXPECT_EQ(page->calls().back(), "end");
-    EXPECT_TRUE(DayPaint[30].painted);
-    EXPECT_EQ(DayPaint[0].color, 8388608u);
+    EXPECT_TRUE(DayPaint[30].painted && DayPaint[0].color == 8388608);
 
     Paint.numbersOffset = true;
     print(mnuFilePrintCalendarNoIcons_Click);

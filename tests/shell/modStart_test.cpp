@@ -11,13 +11,9 @@ namespace {
 class Start : public CalendarTest {};
 
 TEST_F(Start, YearOfThePickerIsCompleted) {
-    for (const auto& [typed, full] : {std::pair{"9", "2009"},
-                                      {"09", "2009"},
-                                      {"30", "1930"},
-                                      {"2009", "2009"},
-                                      {"abc", "abc"},
-                                      {"", ""},
-                                      {"20266", "20266"}})
+    for (const auto& [typed, full] :
+         {std::pair{"9", "2009"}, std::pair{"09", "2009"}, std::pair{"30", "1930"}, std::pair{"2009", "2009"},
+          std::pair{"abc", "abc"}, std::pair{"", ""}, std::pair{"20266", "20266"}})
         EXPECT_EQ(FullYearText(typed), full) << typed;
 }
 
