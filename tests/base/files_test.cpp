@@ -54,10 +54,7 @@ TEST_F(Files, SayWhatIsWrong) {
     const std::function<void(const Path&)> calls[] = {
         [](const Path& path) { ReadWholeFile(path); }, [](const Path& path) { WriteWholeFile(path, "y"); },
         [](const Path& path) { AppendToFile(path, "y"); }, DeleteFile, MakeFolder};
-    const struct {
-        std::string name;
-        int errors[5];
-    } rows[] = {
+    const std::pair<std::string, std::array<int, 5>> rows[] = {
         {"none", {FileNotFound, 0, 0, 0, 0}},
         {"nowhere/file", {PathNotFound, PathNotFound, PathNotFound, 0, 0}},
         {"file/file", {PathNotFound, PathNotFound, PathNotFound, 0, PathFileAccess}},
@@ -66,16 +63,16 @@ TEST_F(Files, SayWhatIsWrong) {
         {"loop", {PathFileAccess, PathFileAccess, PathFileAccess, 0, PathFileAccess}},
         {"astray", {FileNotFound, PathNotFound, FileNotFound, 0, PathFileAccess}},
         {std::string(300, 'n'), {PathFileAccess, PathFileAccess, PathFileAccess, PathFileAccess, PathFileAccess}}};
-    for (const auto& row : rows)
+    for (const auto& [name, errors] : rows)
         for (std::size_t call = 0; call < 5; ++call) {
             const TemporaryFolder fresh;
             fresh.put("file", "x");
             MakeFolder(fresh.path() / "folder");
             fs::create_symlink("loop", fresh.path() / "loop");
             fs::create_symlink("nowhere/file", fresh.path() / "astray");
-            EXPECT_EQ(ErrorOf([&] { calls[call](fresh.path() / row.name); }), row.errors[call]) << row.name << call;
+            EXPECT_EQ(ErrorOf([&, path = fresh.path() / name] { calls[call](path); }), errors[call]) << name << call;
             for (const auto& entry : fs::directory_iterator(fresh.path()))
-                EXPECT_NE(entry.path().extension(), ".tmp") << row.name << call;
+                EXPECT_NE(entry.path().extension(), ".tmp") << name << call;
         }
 }
 
@@ -101,18 +98,14 @@ TEST_F(Files, KeepLinksPermissionsAndWaitForNoPipe) {
 #endif
 
 TEST_F(Files, LeftoversOfKilledSavesAreRemovedWhenOld) {
-    folder.put("~save-1.tmp", "half a f");
-    folder.put("~save-2.tmp", "half a file");
-    folder.put("save-3.tmp", "somebody's own");
-    const auto age = [this](std::string_view name, int minutes) {
+    for (const auto& [name, minutes, stays] :
+         {std::tuple{"~save-1.tmp", 50, true}, std::tuple{"~save-2.tmp", 70, false},
+          std::tuple{"save-3.tmp", 700, true}}) {
+        folder.put(name, "half a file, or somebody's own");
         fs::last_write_time(at(name), fs::file_time_type::clock::now() - std::chrono::minutes(minutes));
-    };
-    age("~save-1.tmp", 50);
-    age("~save-2.tmp", 70);
-    age("save-3.tmp", 700);
-    WriteWholeFile(at("a.dat"), "a");
-    EXPECT_TRUE(folder.has("~save-1.tmp") && folder.has("save-3.tmp"));
-    EXPECT_FALSE(folder.has("~save-2.tmp"));
+        WriteWholeFile(at("a.dat"), "a");
+        EXPECT_EQ(folder.has(name), stays) << name;
+    }
 }
 
 #ifdef __linux__
@@ -165,11 +158,9 @@ TEST_F(Files, AreFoundIgnoringCase) {
     EXPECT_EQ(DataPath("Alerts.dat"), at("ALERTS.dat"));
     EXPECT_EQ(DataPath("None.dat"), at("None.dat"));
     EXPECT_EQ(PathInFolder(folder.path(), "\xE4RGER.fut").filename(), fs::path(u8"Ärger.fut"));
-    EXPECT_TRUE(FileExists(folder.path(), "alerts.DAT"));
-    EXPECT_FALSE(FileExists(folder.path(), "backup"));
+    EXPECT_TRUE(FileExists(folder.path(), "alerts.DAT") && !FileExists(folder.path(), "backup"));
+    EXPECT_TRUE(FolderExists(folder.path(), "Backup") && !FolderExists(folder.path(), "Alerts.dat"));
     EXPECT_FALSE(FileExists(at("none"), "alerts.dat"));
-    EXPECT_TRUE(FolderExists(folder.path(), "Backup"));
-    EXPECT_FALSE(FolderExists(folder.path(), "Alerts.dat"));
     dialogs.expect(
         "Error encountered during Events Folder check.\r\nError Number: 76\r\nError Description: Path not found");
     EXPECT_FALSE(FolderExists(at("none"), "2009"));
@@ -186,12 +177,7 @@ TEST_F(Guard, KeepsWhatWasNotReadToItsEnd) {
         });
     };
     const auto faulty = [&] { EXPECT_EQ(ErrorOf(fail), 102); };
-    struct Row {
-        const char* name;
-        std::function<void()> before;
-        bool kept;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, std::function<void()>, bool> rows[] = {
         {"read", readAll, false},
         {"never read", [] {}, true},
         {"a bad line", faulty, true},
@@ -202,20 +188,19 @@ TEST_F(Guard, KeepsWhatWasNotReadToItsEnd) {
         {"deleted by somebody", [&] { readAll(), fs::remove(at("a.dat")); }, false},
         {"what is to be saved already", [&] { folder.put("a.dat", "saved"); }, false},
         {"empty", [&] { folder.put("a.dat", ""); }, false}};
-    for (const Row& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, before, kept] : rows) {
+        SCOPED_TRACE(name);
         const TemporaryFolder fresh;
         SetDataFolder(folder.path());
         fs::remove_all(at("Backup"));
         folder.put("a.dat", bytes);
-        row.before();
+        before();
         const std::string unread = folder.get("a.dat");
         const std::string told = SaveDataFile(at("a.dat"), "saved");
-        EXPECT_EQ(folder.backups(), row.kept ? unread : "");
-        EXPECT_EQ(told, row.kept
-                            ? "The file \"a.dat\" as it was before is kept as \"a 2026-11-22 19-39-05.dat\" in the "
-                              "folder \"Backup\"."
-                            : "");
+        EXPECT_EQ(folder.backups(), kept ? unread : "");
+        EXPECT_EQ(told, kept ? "The file \"a.dat\" as it was before is kept as \"a 2026-11-22 19-39-05.dat\" in the "
+                               "folder \"Backup\"."
+                             : "");
         EXPECT_EQ(folder.get("a.dat"), "saved");
         EXPECT_EQ(SaveDataFile(at("a.dat"), "again"), "");
     }

@@ -18,11 +18,6 @@ class SixMonths : public CalendarTest {
         window_.show();
     }
 
-    void showFrom(int year, int month) {
-        SelectDate(MakeDate(year, month, 9));
-        Show6MonthCalendar();
-        QCoreApplication::processEvents();
-    }
     MonthPicture* picture(int index) const { return window_.findChild<MonthPicture*>(ElementName("picMonth", index)); }
     QPushButton* button(int index) const { return window_.findChild<QPushButton*>(ElementName("cmdView", index)); }
 
@@ -30,19 +25,16 @@ class SixMonths : public CalendarTest {
     int openedView = 0;
 };
 
-TEST_F(SixMonths, StandInTwoRowsOfThree) {
-    showFrom(2026, 10);
+TEST_F(SixMonths, StandInTwoRowsOfThreeAreLeafedThroughAndOpened) {
+    SelectDate(MakeDate(2026, 10, 9));
+    Show6MonthCalendar();
+    QCoreApplication::processEvents();
     EXPECT_EQ(picture(0)->pos(), QPoint(12, 24));
     EXPECT_EQ(picture(2)->pos(), QPoint(524, 24));
     EXPECT_EQ(picture(5)->pos(), QPoint(524, 266));
     EXPECT_EQ(button(4)->pos(), QPoint(272, 244));
     for (int i = 0; i < 6; ++i) EXPECT_FALSE(button(i)->geometry().intersects(picture(i)->geometry())) << i;
-    EXPECT_EQ(button(0)->text(), QStringLiteral("October, 2026"));
-    EXPECT_EQ(button(5)->text(), QStringLiteral("March, 2027"));
-}
 
-TEST_F(SixMonths, KeysLeafThroughDaysAreClickedAndAButtonOpensItsMonth) {
-    showFrom(2026, 10);
     QTest::keyClick(&window_, Qt::Key_Right);
     EXPECT_EQ(button(0)->text(), QStringLiteral("April, 2027"));
     EXPECT_FALSE(SpansNextYear);

@@ -8,7 +8,7 @@
 namespace {
 class Selection : public CalendarTest {
   protected:
-    void putData() const {
+    Selection() {
         folder.put("Holidays/2026Holidays.dat", "07/04/26:Independence Day\r\n12/25/26:Christmas Day\r\n");
         folder.put("Birthdays.dat", "07/04:05:Anna:1990\r\n07/04:05:Ben:****\r\n03/01:00:Zo\xEB:2001\r\n");
         folder.put("2026Marks.dat", "02:01:00:255-Dentist 9:30\r\n06:06:00:8388736\r\n");  // March 2, July 4
@@ -47,7 +47,6 @@ TEST_F(Selection, DoubleClickOpensTheNoteOnlyOfTheDayLastClicked) {
 }
 
 TEST_F(Selection, HoverNamesWhatIsOnTheDayAndIsSilentAboutHiddenCategories) {
-    putData();
     using Row = std::tuple<int, int, const char*>;
     const Row rows[] = {{3, 2, "Meeting: Dentist 9:30"},
                         {3, 1, "Birthday: Zo\xEB"},
@@ -72,7 +71,6 @@ TEST_F(Selection, HoverNamesWhatIsOnTheDayAndIsSilentAboutHiddenCategories) {
 }
 
 TEST_F(Selection, MenuFollowsWhatThePointerIsOver) {
-    putData();
     show(1, 2026, 3, 10);
     const auto hoverOver = [](int day) {
         const Cell cell = CellOf(MakeDate(2026, 3, day));
