@@ -1,21 +1,18 @@
 // The printed month on paper of both sizes and orientations, read back from a PDF file.
 #include <QPageLayout>
 
-#include "marks/modIcons.h"
 #include "marks/modPrint.h"
 #include "tests/marks/month.h"
-#include "tests/support/planner.h"
 #include "tests/support/window_pdf.h"
 
 namespace {
-using PrintedMonth = PlannerTest;
+using PrintedMonth = CalendarTest;
 
 TEST_F(PrintedMonth, FitsTheSheet) {
     std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive);
-    folder.put("Marker Colors.dat", CategoryLines);
     folder.put("2026/Jul_Icons.dat", "00:00 Index:12\r\n30:03 Index:95\r\n");
     PutEntries(folder, 36);
-    ReadMonth(2026, 7);
+    show(1, 2026, 7, 1);
     for (const auto size : {QPageSize::A4, QPageSize::Letter})
         for (const auto orientation : {QPageLayout::Portrait, QPageLayout::Landscape}) {
             const PdfPrinter printer(QString::fromStdString(folder.path().string()),

@@ -1,12 +1,12 @@
 // The categories' file: read, edited, refused, saved.
 #include "marks/modCategories.h"
-#include "tests/marks/month.h"
-#include "tests/support/planner.h"
+#include "tests/support/calendar.h"
 
 namespace {
 const std::string File = "Marker Colors.dat";
 const std::string Starless = CategoryLines;
-const std::string Full = Replaced(Replaced(Starless, "Holiday:255", "Holiday:255*"), "Travel:65280", "Travel:65280*");
+const std::string Full =
+    Replaced(Replaced(Starless, "Holiday:16711680", "Holiday:16711680*"), "Travel:8388608", "Travel:8388608*");
 
 /// The file with another line for Birthday.
 std::string With(const std::string& line) { return Replaced(Full, "Birthday:8388736", line); }
@@ -23,7 +23,7 @@ std::size_t Hidden() { return static_cast<std::size_t>(std::count(MarkerHidden.b
 
 TEST_F(CategoriesTest, AreReadAndSavedWithAndWithoutTheStars) {
     read(Full);
-    EXPECT_EQ(MarkerTextColor[6], 0x00FFFFu) << "yellow on brown";
+    EXPECT_EQ(MarkerTextColor[2], 0x00FFFFu) << "yellow on brown";
     EXPECT_TRUE(MarkersLoaded && MarkerHidden[8] && MarkerHidden[12] && !CategoryOfColor(0x808080));
     for (const bool withStars : {true, false}) {
         SaveHiddenMarks = withStars;
@@ -43,19 +43,19 @@ TEST_F(CategoriesTest, EditedLabelsAreCheckedSavedAndReadBack) {
     edited[0].caption = "Bills: all";
     dialogs.expect("\":\" separates the caption from the color");
     EXPECT_FALSE(SaveEditedLabels(edited));
-    edited[0] = {"Bills*", 0x8080, White};
-    edited[1].color = 0x8080;
+    edited[0] = {"Bills*", Silver, White};
+    edited[1].color = Silver;
     dialogs.expect("You cannot use the same color twice. Choose a different color for each category.");
     EXPECT_FALSE(SaveEditedLabels(edited));
-    EXPECT_EQ(MarkerColor[1], 0x8080u);
+    EXPECT_EQ(MarkerColor[1], Silver);
     EXPECT_EQ(folder.get(File), Full);
     CloseMarkerLabels();
-    EXPECT_EQ(MarkerColor[1], 0x8000u) << "what was refused is undone with the window";
+    EXPECT_EQ(MarkerColor[1], 0x80FFu) << "what was refused is undone with the window";
 
     edited[1] = MarkerLabels[1];
     dialogs.expect("Marker Colors Saved.");
     EXPECT_TRUE(SaveEditedLabels(edited));
-    EXPECT_EQ(folder.get(File), "Bills*:32896" + Starless.substr(Starless.find('\r')));
+    EXPECT_EQ(folder.get(File), "Bills*:12632256" + Starless.substr(Starless.find('\r')));
     OpenMarkerLabels();
     EXPECT_TRUE(MarkersLoaded && Hidden() == 2) << "the display keeps its state";
 }
@@ -86,7 +86,7 @@ TEST_F(CategoriesTest, FaultsAreReportedLinesBeforeThemStandAndNothingIsLost) {
 TEST_F(CategoriesTest, SurviveBeingCutAtEveryByte) {
     ForEachCut(Full, [&](const std::string& cut, const TemporaryFolder& fresh) {
         fresh.put(File, cut);
-        if (cut.size() <= Full.find("16776960")) dialogs.expect("ReadMarkerColors");
+        if (cut.size() <= Full.find("16711935")) dialogs.expect("ReadMarkerColors");
         ReadMarkerColors();
         dialogs.expect("Marker Colors Saved.");
         SaveHiddenMarks = true;

@@ -1,8 +1,9 @@
 // The day labels of a month.
 #include "marks/modLabels.h"
 
+#include "marks/modIcons.h"
+#include "reminders/modBirthdays.h"
 #include "tests/marks/month.h"
-#include "tests/support/planner.h"
 
 namespace {
 std::string AllLabels() {
@@ -11,23 +12,20 @@ std::string AllLabels() {
     return all;
 }
 
-struct LabelsTest : PlannerTest {
-    LabelsTest() { folder.put("Marker Colors.dat", CategoryLines); }
-};
+using LabelsTest = CalendarTest;
 
 TEST_F(LabelsTest, ListByDayHolidaysBirthdaysMarks) {
     folder.put("Holidays/2026Holidays.dat", "07/04/26:Independence Day\r\n08/04/26:Another\r\n");
     folder.put("Birthdays.dat", "07/04:01:Anna:1990\r\n02/29:01:Leap:2000\r\n07/12:01:Hugo:****\r\n");
     // The 4th of July 2026 is a Saturday; the 12th a Sunday; the 6th a Monday; the 4th of August a Tuesday.
     folder.put("2026Marks.dat",
-               "06:00:02:8388608-Budget review\r\n06:01:01:12632256\r\n06:06:00:16711680\r\n07:02:01:8388608\r\n"
-               "06:01:02:1234\r\n");
-    ReadMonth(2026, 7);
-    DisplayTTTLabels();
+               "06:00:02:255-Budget review\r\n06:01:01:8421376\r\n06:06:00:65535\r\n07:02:01:255\r\n06:01:02:1234\r\n");
+    ReadBirthdays();
+    show(1, 2026, 7, 1);
     EXPECT_EQ(AllLabels(),
               "04: Holiday: Independence Day|04: Birthday: Anna|04: Appointment|06: Quick Marks|12: Birthday: Hugo|"
               "12: Meeting: Budget review|");
-    EXPECT_EQ(DayLabels.labels[1].color, 8388736u);
+    EXPECT_EQ(DayLabels.labels[1].color, BirthdayColor);
     MarkLines.emplace_back("06:00");
     dialogs.expect("An error occurred in DisplayTTTLabels.");
     DisplayTTTLabels();
@@ -46,9 +44,8 @@ TEST_F(LabelsTest, ListByDayHolidaysBirthdaysMarks) {
 
 TEST_F(LabelsTest, ThirtySixFitAndTheLatestGo) {
     PutEntries(folder, 37);
-    ReadMonth(2026, 7);
     dialogs.expect("first 36 can be listed. You may wish to hide some of the marks and\r\nrefresh the calendar.");
-    DisplayTTTLabels();
+    show(1, 2026, 7, 1);
     EXPECT_EQ(DayLabels.labels.size(), 36u);
     EXPECT_EQ(CaptionOf(DayLabels.labels.back()), "30: Meeting: number 30");
 }

@@ -1,15 +1,13 @@
 // The printed month, read from what is drawn on the page.
 #include "marks/modPrint.h"
 
-#include "calendar/modPaint.h"
+#include "marks/modIcons.h"
 #include "tests/marks/month.h"
-#include "tests/support/planner.h"
 #include "tests/support/printer.h"
 
 namespace {
-struct PrintTest : PlannerTest {
+struct PrintTest : CalendarTest {
     PrintTest() {
-        folder.put("Marker Colors.dat", CategoryLines);
         printer.unitsPerPoint = 0.0139;  // Letter: about an inch to the unit
         CheckPrinter();
     }
@@ -24,10 +22,10 @@ struct PrintTest : PlannerTest {
 
 TEST_F(PrintTest, DrawsTheMonth) {
     folder.put("Holidays/2026Holidays.dat", "08/01/26:Swiss Day\r\n08/02/26:Sunday's\r\n");
-    folder.put("2026Marks.dat", "07:06:00:8388608-Budget\r\n");
+    folder.put("2026Marks.dat", "07:06:00:255-Budget\r\n");
     folder.put("2026/Aug_Icons.dat", "00:03 Index:41\r\n01:00 Index:07\r\n");
     dialogs.expect("An error occurred in ReadIconTags.");  // none is installed here: the pictures are drawn by number
-    ReadMonth(2026, 8);
+    show(1, 2026, 8, 1);
     Icons.badPictures.erase(41);
     print();
     EXPECT_EQ(printer.title, "August, 2026");
@@ -35,26 +33,26 @@ TEST_F(PrintTest, DrawsTheMonth) {
     for (const auto& call :  // on Saturday the mark decides over the holiday
          Pieces("text 3.5 0.6 'August, 2026' Arial 12 000000|text 0.896 0.975 'Sun' Arial 10 000000|"
                 "line 7.5 0.875 7.5 7.25 000000|line 0.5 7.25 7.5 7.25 000000|"
-                "text 6.937 1.55 '1' Arial 18 bold 800000|text 0.937 2.55 '2' Arial 18 bold 0000FF|"
-                "picture 7.26 1.95 0.236 0.289 41.ico|text 0.5 7.5 '1:' Arial 9 0000FF|"
-                "text 0.82 7.5 'Holiday: Swiss Day' Arial 9 0000FF|text 0.82 7.67 'Meeting: Budget' Arial 9 800000|"
-                "text 0.82 7.84 'Holiday: Sunday's' Arial 9 0000FF"))
+                "text 6.937 1.55 '1' Arial 18 bold 0000FF|text 0.937 2.55 '2' Arial 18 bold FF0000|"
+                "picture 7.26 1.95 0.236 0.289 41.ico|text 0.5 7.5 '1:' Arial 9 FF0000|"
+                "text 0.82 7.5 'Holiday: Swiss Day' Arial 9 FF0000|text 0.82 7.67 'Meeting: Budget' Arial 9 0000FF|"
+                "text 0.82 7.84 'Holiday: Sunday's' Arial 9 FF0000"))
         EXPECT_TRUE(page->has(call)) << call;
     EXPECT_EQ(page->containing("picture").size(), 1u);  // the other could not be read
     EXPECT_EQ(page->containing("line").size(), 16u);
-    EXPECT_TRUE(DayPaint[30].painted && DayPaint[0].color == 8388608);
+    EXPECT_TRUE(DayPaint[30].painted && DayPaint[0].color == MeetingColor);
 
     Paint.numbersOffset = true;
     print(mnuFilePrintCalendarNoIcons_Click);
     EXPECT_TRUE(page->containing("picture").empty());
-    EXPECT_TRUE(page->has("text 6.55 1.361 '1' Arial 10 bold 800000"));
+    EXPECT_TRUE(page->has("text 6.55 1.361 '1' Arial 10 bold 0000FF"));
 }
 
 TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
     for (const auto& [entries, printed] : {std::pair{18, 18}, {19, 19}, {36, 36}, {37, 36}}) {
         PutEntries(folder, entries);
-        ReadMonth(2026, 7);
-        if (entries > printed) dialogs.expect("first 36 will be printed.");
+        if (entries > printed) dialogs.expect("first 36 can be listed."), dialogs.expect("first 36 will be printed.");
+        show(1, 2026, 7, 1);
         print();
         EXPECT_EQ(page->containing(":' Arial 9").size(), static_cast<std::size_t>(printed)) << entries;
         EXPECT_EQ(page->containing("text 0.5 10.39 '").size(), 1u) << entries;  // the 18th
@@ -63,9 +61,9 @@ TEST_F(PrintTest, ListsAtMostTwoColumnsOfEighteen) {
 }
 
 TEST_F(PrintTest, KeepsTheListInsideItsColumns) {
-    folder.put("2026Marks.dat", "06:06:00:8388608-" + std::string(200, 'x') + "\r\n");
+    folder.put("2026Marks.dat", "06:06:00:255-" + std::string(200, 'x') + "\r\n");
     printer.unitsPerPoint = 0.02;  // wide paper: less height for a line
-    ReadMonth(2026, 7);
+    show(1, 2026, 7, 1);
     print();
     const auto texts = page->containing("Meeting: xx");
     ASSERT_EQ(texts.size(), 1u);
@@ -77,7 +75,7 @@ TEST_F(PrintTest, KeepsTheListInsideItsColumns) {
 
 TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
     PutEntries(folder, 3);
-    ReadMonth(2026, 7);
+    show(1, 2026, 7, 1);
     TemplateMode = true;
     ResetMonthIcons(TemplateDate = MakeDate(2026, 1, 1));
     print();
@@ -88,7 +86,7 @@ TEST_F(PrintTest, PrintsTheTemplateWithoutWeekdaysAndList) {
 }
 
 TEST_F(PrintTest, TellsOfPrintersThatAreMissingOrFail) {
-    ReadMonth(2026, 7);
+    show(1, 2026, 7, 1);
     PrinterAvailable = false;
     dialogs.expect("Printer could not be found");
     print();

@@ -26,13 +26,7 @@ CalendarTest::CalendarTest() {
 
 CalendarTest::~CalendarTest() { Shell = {}; }
 
-void PutCategories(const TemporaryFolder& folder) {
-    folder.put(
-        "Marker Colors.dat",
-        "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
-        "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nEvent:32768\r\nHoliday:16711680\r\n"
-        "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\nVacation:16711935\r\n");
-}
+void PutCategories(const TemporaryFolder& folder) { folder.put("Marker Colors.dat", CategoryLines); }
 
 void CalendarTest::show(int view, int year, int month, int day) const {
     SelectDate(MakeDate(year, month, day));

@@ -51,5 +51,10 @@ inline constexpr Color HolidayColor = 0xFF0000;
 inline constexpr Color QuickMarksColor = 0x808000;
 inline constexpr Color TodayColor = 0xFFFF00;
 
-/// Writes fourteen categories with those colours.
+/// The file of fourteen categories with those colours.
+inline constexpr const char* CategoryLines =
+    "Account Payable:128\r\nAccount Receivable:33023\r\nAnniversary:16512\r\nAppointment:65535\r\n"
+    "Birthday:8388736\r\nCelebration:32896\r\nDining:65280\r\nEvent:32768\r\nHoliday:16711680\r\n"
+    "Meeting:255\r\nQuick Marks:8421376\r\nToday's Date:16776960\r\nTravel:8388608\r\nVacation:16711935\r\n";
+/// Writes it.
 void PutCategories(const TemporaryFolder& folder);
