@@ -11,11 +11,6 @@
 namespace {
 struct IconWindows : WindowTest {
     IconWindows() { std::filesystem::copy(TASMORO_ICONS, folder.path(), std::filesystem::copy_options::recursive); }
-
-    template <class Control>
-    static Control* Find(const QWidget* window, const QString& name) {
-        return window->findChild<Control*>(name);
-    }
 };
 
 TEST_F(IconWindows, TheLibraryHasEveryPictureAndTakesItInItsOwnSizeWhereThereIsOne) {
@@ -41,25 +36,25 @@ TEST_F(IconWindows, WhatIsNoPictureIsReportedAndTheOthersShow) {
     ShowPaletteWindow();
     auto* palette = OpenedWindow<frmIcons>();
     palette->grab();
-    EXPECT_EQ(Find<IconImage>(palette, QStringLiteral("imgIcon(95)"))->toolTip(), QStringLiteral("Important"));
+    EXPECT_EQ(palette->findChild<IconImage*>(QStringLiteral("imgIcon(95)"))->toolTip(), QStringLiteral("Important"));
     EXPECT_NE(IconPixmap(7, 24, 1).toImage(), IconPixmap(8, 24, 1).toImage());
     EXPECT_EQ(IconPixmap(7, 24, 1).toImage(), IconPixmap(9, 24, 1).toImage());
 }
 
 TEST_F(IconWindows, TheManagerChangesASlotAndNothingIsDraggedWithoutAMonth) {
     ShowPaletteWindow();
-    auto* dentist = Find<IconImage>(OpenedWindow<frmIcons>(), QStringLiteral("imgIcon(12)"));
+    auto* dentist = OpenedWindow<frmIcons>()->findChild<IconImage*>(QStringLiteral("imgIcon(12)"));
     dialogs.expect("Icons can only be inserted on the 1 Month Calendar.\r\nRight Click on any Icon");
     QTest::mouseClick(dentist, Qt::LeftButton);
     EXPECT_EQ(DragKind, Drag::None);
     QTest::mouseClick(dentist, Qt::RightButton);
     auto* manager = OpenedWindow<frmIconTag>();
-    auto* caption = Find<QLineEdit>(manager, QStringLiteral("txtTag"));
+    auto* caption = manager->findChild<QLineEdit*>(QStringLiteral("txtTag"));
     EXPECT_EQ(caption->selectedText(), QStringLiteral("Dentist"));
 
     caption->setText(QString(QChar(0x4E2D)));  // a character that the files do not have
     dialogs.expect("cannot be saved");
-    auto* save = Find<QPushButton>(manager, QStringLiteral("cmdSave"));
+    auto* save = manager->findChild<QPushButton*>(QStringLiteral("cmdSave"));
     save->click();
     EXPECT_EQ(OpenedWindow<frmIconTag>(), manager);
 
@@ -71,7 +66,7 @@ TEST_F(IconWindows, TheManagerChangesASlotAndNothingIsDraggedWithoutAMonth) {
     save->click();
     EXPECT_EQ(IconCaption[12], "Dentist") << "what was not saved is not shown";
     SetDisk({});
-    QTest::mouseClick(Find<IconImage>(manager, QStringLiteral("imgIcon(143)")), Qt::LeftButton);
+    QTest::mouseClick(manager->findChild<IconImage*>(QStringLiteral("imgIcon(143)")), Qt::LeftButton);
     dialogs.expect("Icon Has Changed", Answer::Cancel);
     QTest::keyClick(manager, Qt::Key_Escape);
     dialogs.expect("Icon Has Changed", Answer::Cancel);

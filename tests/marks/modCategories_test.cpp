@@ -11,18 +11,14 @@ const std::string Full =
 /// The file with another line for Birthday.
 std::string With(const std::string& line) { return Replaced(Full, "Birthday:8388736", line); }
 
-struct CategoriesTest : PlannerTest {
-    void read(const std::string& bytes) {
-        folder.put(File, bytes);
-        ReadMarkerColors();
-    }
-};
+using CategoriesTest = PlannerTest;
 
 std::size_t Hidden() { return static_cast<std::size_t>(std::count(MarkerHidden.begin(), MarkerHidden.end(), true)); }
 }  // namespace
 
 TEST_F(CategoriesTest, AreReadAndSavedWithAndWithoutTheStars) {
-    read(Full);
+    folder.put(File, Full);
+    ReadMarkerColors();
     EXPECT_EQ(MarkerTextColor[2], 0x00FFFFu) << "yellow on brown";
     EXPECT_TRUE(MarkersLoaded && MarkerHidden[8] && MarkerHidden[12] && !CategoryOfColor(0x808080));
     for (const bool withStars : {true, false}) {
@@ -38,7 +34,8 @@ TEST_F(CategoriesTest, AreReadAndSavedWithAndWithoutTheStars) {
 }
 
 TEST_F(CategoriesTest, EditedLabelsAreCheckedSavedAndReadBack) {
-    read(Full);
+    folder.put(File, Full);
+    ReadMarkerColors();
     auto edited = MarkerLabels;
     edited[0].caption = "Bills: all";
     dialogs.expect("\":\" separates the caption from the color");

@@ -1,12 +1,8 @@
 // Marks files read, painted and saved: what they hold is never lost, never another year's.
 #include "marks/modMarks.h"
 
-#include "calendar/modPaint.h"
-#include "forms/recorder.h"
-#include "marks/modCategories.h"
 #include "reminders/modBirthdays.h"
-#include "reminders/modHolidays.h"
-#include "tests/support/planner.h"
+#include "tests/support/calendar.h"
 
 namespace {
 const std::string File = "2026Marks.dat";
@@ -15,9 +11,7 @@ const std::string Full =
     "00:01:04:8388608-Team meeting\r\n01:00:02:12632256\r\n01:03:01:255-Flight - gate B:22\r\n"
     "03:02:01:33023-\xBD day off\r\n11:05:03:16711680";
 
-struct MarksTest : PlannerTest {
-    Recorder canvas;
-
+struct MarksTest : CalendarTest {
     MarksTest() { begin(); }
 
     /// The tables of an empty planner that shows 2026 and reaches into 2027.
@@ -25,15 +19,6 @@ struct MarksTest : PlannerTest {
         Calendar.yearOnDisplay = 2026;
         SpansNextYear = true;
         SelectDate(MakeDate(2026, 2, 11));
-    }
-    void showMonth(Date date, DayStyle style = DayStyle::Box) {
-        canvas.clear();
-        Paint.style = style;
-        ShownMonths = {{&canvas, YearOf(date), MonthOf(date) - 1, YearOf(date) == 2026 ? ThisYear : NextYear, {}}};
-    }
-    void read(const std::string& bytes) {
-        folder.put(File, bytes);
-        ReadAndDisplayThisYearsMarks();
     }
 };
 
@@ -43,10 +28,6 @@ int MarkedCells(Year slot) {
     return count;
 }
 
-Color PaintedColor(Date date) {
-    const Cell cell = CellOf(date);
-    return ShownMonths.front().painted.at(static_cast<std::size_t>(cell.column)).at(static_cast<std::size_t>(cell.row));
-}
 }  // namespace
 
 TEST_F(MarksTest, SurviveReadingAndSaving) {
@@ -64,7 +45,8 @@ TEST_F(MarksTest, SurviveReadingAndSaving) {
 }
 
 TEST_F(MarksTest, EachYearKeepsToItsOwnTablesAndFile) {
-    read(Full);
+    folder.put(File, Full);
+    ReadAndDisplayThisYearsMarks();
     Calendar.yearOnDisplay = 2027;
     EXPECT_TRUE(SaveThisYearsMarks());
     EXPECT_EQ(folder.get(File), Full) << "the tables are still those of 2026";
@@ -140,33 +122,29 @@ TEST_F(MarksTest, ArePaintedInTheirColorOrInWhatAHiddenCategoryLeavesToSee) {
     folder.put("Holidays/2026Holidays.dat", "02/11/26:H\r\n02/12/26:H\r\n");
     folder.put("Birthdays.dat", "02/12:00:Ann:****\r\n02/13:00:Bob:****\r\n");
     const std::string file = "01:03:01:255-x\r\n01:04:01:255\r\n01:05:01:255\r\n01:06:01:255";
-    MarkerColor = {1, 2, 3, 4, 0x800080, 6, 7, 8, 0xFF0000, 0x0000FF};
-    AssignThisYearsHolidays();
+    folder.put(File, file);
     ReadBirthdays();
-    ReadAndMarkBirthdays();
     const auto colors = [&] {
-        showMonth(MakeDate(2026, 2, 1));
-        read(file);
-        return std::vector<Color>{PaintedColor(MakeDate(2026, 2, 11)), PaintedColor(MakeDate(2026, 2, 12)),
-                                  PaintedColor(MakeDate(2026, 2, 13)), PaintedColor(MakeDate(2026, 2, 14))};
+        show(6, 2026, 2, 1);
+        return std::vector<Color>{painted(2026, 2, 11), painted(2026, 2, 12), painted(2026, 2, 13),
+                                  painted(2026, 2, 14)};
     };
-    EXPECT_EQ(colors(), (std::vector<Color>{0xFF, 0xFF, 0xFF, 0xFF}));
+    EXPECT_EQ(colors(), std::vector<Color>(4, MeetingColor));
     MarkerHidden[9] = true;
-    EXPECT_EQ(colors(), (std::vector<Color>{0xFF0000, 0xFF0000, 0x800080, 0}));
+    EXPECT_EQ(colors(), (std::vector<Color>{HolidayColor, HolidayColor, BirthdayColor, Black}));
     MarkerHidden[HolidayCategory] = true;
-    EXPECT_EQ(colors(), (std::vector<Color>{0, 0x800080, 0x800080, 0}));
+    EXPECT_EQ(colors(), (std::vector<Color>{Black, BirthdayColor, BirthdayColor, Black}));
     EXPECT_TRUE(SaveThisYearsMarks());
     EXPECT_EQ(folder.get(File), file) << "hiding changes nothing that is saved";
 }
 
 TEST_F(MarksTest, OnlyCellsOfAnotherColorArePaintedAgainAndNoneOfAnotherYear) {
-    folder.put(NextFile, Full);
-    showMonth(MakeDate(2026, 2, 1));
-    read(Full);
+    for (const auto& name : {File, NextFile}) folder.put(name, Full);
+    show(6, 2026, 2, 11);
     ReadAndDisplayNextYearsMarks();
     MarkColor(1, 3, 1) = 0x00FF00;
     ReDrawDateMarks();
     EXPECT_TRUE(SaveAndReadMarks(ThisYear));
-    EXPECT_EQ(canvas.containing("fill"),
+    EXPECT_EQ(month(0).containing("fill"),
               Pieces("fill 0.1 2.85 0.9 3.65 C0C0C0|fill 3.1 1.85 3.9 2.65 0000FF|fill 3.1 1.85 3.9 2.65 00FF00"));
 }
