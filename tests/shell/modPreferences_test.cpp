@@ -27,13 +27,19 @@ struct PreferencesTest : PlannerTest {
 };
 }  // namespace
 
-TEST_F(PreferencesTest, AreReadByPositionAndOnlyTheirOwnLinesAreReplaced) {
+TEST_F(PreferencesTest, AreReadByPositionAndOnlyTheirOwnLinesAreReplacedUnlessTheSaveFails) {
     read(Full + "more\r\n");
     EXPECT_EQ(Preferences.companyName, "A: B");
     EXPECT_EQ(CurrentTermsFile, "Work.fut");
     EXPECT_EQ(Preferences.termsPlace, (TermsPlace{11820, 3045.5, 2805, 6345})) << "the width is the one before";
     EXPECT_TRUE(!AutoCompleteOn && AutoStartPosition == 4 && Preferences.showTerms && Preferences.loadTermsPlace);
     EXPECT_TRUE(std::filesystem::is_directory(folder.path() / "Backup"));
+
+    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
+    dialogs.expect("SaveUserPreferences");
+    EXPECT_FALSE(SaveDefaultTermsFile("Home.fut"));
+    SetDisk({});
+    EXPECT_TRUE(Preferences.termsFile == "Work.fut" && folder.get(File) == Full + "more\r\n");
     EXPECT_TRUE(SaveTermsPlace({-150, 30, 4000, 5000.5}));
     EXPECT_EQ(folder.get(File), With("FUT", "FUT Position:Left=-150:Top=30:Width=4000:Height=5000.5") + "more\r\n");
     for (const char* place : {"Left=nan", "Top=-1e30", "Width=inf"}) {
@@ -90,17 +96,6 @@ TEST_F(PreferencesTest, NetworkShareTakesALetterOnlyAndMakesAMissingFile) {
     }
     GetUserPreferences();
     EXPECT_EQ(Preferences.networkShare, "e");
-}
-
-TEST_F(PreferencesTest, FailedSaveChangesNothing) {
-    read(Full);
-    SetDisk({.write = [](const Path&, std::string_view) { throw Error(DiskFull); }});
-    dialogs.expect("SaveUserPreferences");
-    EXPECT_FALSE(SaveDefaultTermsFile("Home.fut"));
-    SetDisk({});
-    EXPECT_EQ(Preferences.termsFile, "Work.fut");
-    EXPECT_TRUE(SaveUserPreferences());
-    EXPECT_EQ(folder.get(File), Full);
 }
 
 TEST_F(PreferencesTest, PrinterIsSelectedAndItsFailureStopsNothing) {
