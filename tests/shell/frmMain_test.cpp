@@ -1,6 +1,7 @@
 // The main window: start-up, menus, pickers, the calendar in it, its panels, its end.
 #include "shell/frmMain.h"
 
+#include "calendar/frm6Months.h"
 #include "calendar/frmYear.h"
 #include "marks/modIcons.h"
 #include "marks/modMarks.h"
@@ -84,6 +85,30 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: 2027 Calendar"));
     QTest::mouseClick(OpenedWindow<frmYear>()->findChild<QPushButton*>(QStringLiteral("cmdMonth(4)")), Qt::LeftButton);
     EXPECT_EQ(window_->windowTitle(), QStringLiteral("Tasmoro: May 2027 Calendar"));
+}
+
+TEST_F(MainWindowTest, SixMonthsStandInTwoRowsOfThreeAreLeafedThroughAndOpened) {
+    pick("October", "9", "2026");
+    QTest::mouseClick(window_->imgCal[1], Qt::LeftButton);
+    QCoreApplication::processEvents();
+    auto* months = OpenedWindow<frm6Months>();
+    const auto picture = [months](int i) { return months->findChild<MonthPicture*>(ElementName("picMonth", i)); };
+    const auto button = [months](int i) { return months->findChild<QPushButton*>(ElementName("cmdView", i)); };
+    QRegion taken;
+    for (int i = 0; i < 6; ++i) {
+        EXPECT_TRUE(picture(i)->x() == picture(i % 3)->x() && picture(i)->y() == picture(i / 3 * 3)->y()) << i;
+        for (const QWidget* part : {static_cast<QWidget*>(picture(i)), static_cast<QWidget*>(button(i))}) {
+            EXPECT_TRUE(months->rect().contains(part->geometry()) && !taken.intersects(part->geometry())) << i;
+            taken += part->geometry();
+        }
+    }
+    QTest::keyClick(months, Qt::Key_Right);
+    EXPECT_EQ(button(0)->text(), QStringLiteral("April, 2027"));
+    QTest::keyClick(months, Qt::Key_Left);
+    QTest::mouseClick(picture(3), Qt::LeftButton, {}, MiddleOfDay(picture(3), MakeDate(2027, 1, 5)));
+    EXPECT_TRUE(SelectedInNextYear && SelectedDate == MakeDate(2027, 1, 5));
+    QTest::keyClick(button(3), Qt::Key_Return);
+    EXPECT_TRUE(CalendarView == 1 && SelectedDate == MakeDate(2027, 1, 1));
 }
 
 TEST_F(MainWindowTest, PickersTakeEnterAndAnyYear) {
