@@ -72,7 +72,6 @@ TEST_F(ColorsWindow, ArrowKeysWalkOverTheLabels) {
     QTest::keyClick(window->focusWidget(), Qt::Key_Right);
     QTest::keyClick(window->focusWidget(), Qt::Key_Return);
     EXPECT_EQ(window->lblMarker[1]->backColor(), MarkerPalette[5]);
-    window->cmdExit->click();
 }
 
 TEST_F(ColorsWindow, EditsOutliveRefusedSavesASaveFromElsewhereAndACancelledClosing) {

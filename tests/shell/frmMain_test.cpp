@@ -17,8 +17,7 @@ namespace {
 struct MainWindowTest : WindowTest {
     MainWindowTest() {
         SaveUserPreferences();
-        PutCategories(folder);
-        folder.put("Marker Colors.dat", Replaced(folder.get("Marker Colors.dat"), "Event", "R&D"));
+        folder.put("Marker Colors.dat", Replaced(CategoryLines, "Event", "R&D"));
         folder.put("Help_Topics.txt", "Getting Started:Click a day.\r\n*Marks:Mark it.\r\n");
         folder.put("Alerts.dat", "46350:0003:Order the cake\r\n");  // 24 November 2026
         folder.put("2026Marks.dat", "10:01:02:255-Dentist");        // 16 November 2026
