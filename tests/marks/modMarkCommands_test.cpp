@@ -64,19 +64,7 @@ TEST_F(MarkCommands, HoverTextIsSavedWithItsMarkAndAnEmptyOneChangesNothing) {
     AttachHoverText();
 }
 
-TEST_F(MarkCommands, ClearedMarkIsGoneAndItsTextReturnsWithTheNextMark) {
-    show(6, 2026, 2, 1);
-    click(2026, 5, 5);
-    markAs(MeetingItem, "typed with care");
-    ClearMarkFromSelectedDate();
-    EXPECT_EQ(file(), "(none)");
-    EXPECT_EQ(painted(2026, 5, 5), Black) << "a plain number again";
-    EXPECT_TRUE(enabled["mnuOptDateQuickMark"] && !enabled["mnuOptDateClearMark"]);
-    QuickMarkSelectedDate();
-    EXPECT_EQ(file(), "04:02:01:8421376-typed with care");
-}
-
-TEST_F(MarkCommands, DaysOfOtherYearsGoToTheirOwnFiles) {
+TEST_F(MarkCommands, DaysOfOtherYearsGoToTheirOwnFilesAndAClearedTextReturnsWithTheNextMark) {
     folder.put("2026Marks.dat", "01:03:01:255");
     show(6, 2026, 9, 1);
     click(2027, 1, 6);
@@ -87,7 +75,8 @@ TEST_F(MarkCommands, DaysOfOtherYearsGoToTheirOwnFiles) {
     ClearMarkFromSelectedDate();
     EXPECT_EQ(file(2027), "");
     EXPECT_EQ(folder.get("2027Marks.bak"), "00:03:01:255-far");
-    EXPECT_EQ(painted(2026, 9, 1), Black) << "the months on display stay";
+    EXPECT_TRUE(enabled["mnuOptDateQuickMark"] && !enabled["mnuOptDateClearMark"]);
+    EXPECT_EQ(painted(2027, 1, 6), Black) << "a plain number again, and the months on display stay";
     QuickMarkSelectedDate();
     EXPECT_EQ(file(2027), "00:03:01:8421376-far") << "the selected day is still the one of next year";
 
@@ -112,37 +101,31 @@ TEST_F(MarkCommands, EmptyCellsTakeNoMark) {
     EXPECT_EQ(file(2026) + file(2027), "(none)(none)");
 }
 
-TEST_F(MarkCommands, BirthdayAndHolidayOpenTheirManagersAndSaveNothing) {
+TEST_F(MarkCommands, BirthdaysAndHolidaysAreLeftToTheirManagers) {
+    folder.put("Holidays/2026Holidays.dat", "02/11/26:Valentine\r\n02/12/26:Other\r\n");
+    folder.put("Birthdays.dat", "02/12:00:Ann:****\r\n");
+    ReadBirthdays();
     show(12, 2026, 2, 1);
-    click(2026, 2, 11);
+    for (const auto& [day, message] : {std::pair{11, "Use the Holiday Manager to remove this mark."},
+                                       {12, "Use the Birthday Manager to remove this mark."}}) {
+        click(2026, 2, day);
+        dialogs.expect(message);
+        ClearMarkFromSelectedDate();
+    }
+    ShowCategory(BirthdayCategory, false);
+    ShowCategory(HolidayCategory, false);
+    ClearMarkFromSelectedDate();
+
     std::string opened;
     OpenBirthdayManager = [&](Date date) { opened += "birthday " + ShortDate(date); };
     OpenHolidayManager = [&](Date date) { opened += " holiday " + ShortDate(date); };
     MarkSelectedDateAs(BirthdayCategory);
     MarkSelectedDateAs(HolidayCategory);
-    EXPECT_EQ(opened, "birthday 2/11/2026 holiday 2/11/2026");
-    EXPECT_EQ(file(), "(none)");
-    EXPECT_TRUE(MarkFlag(1, 3, 1));
+    EXPECT_EQ(opened, "birthday 2/12/2026 holiday 2/12/2026");
+    EXPECT_TRUE(MarkFlag(1, 4, 1) && file() == "(none)");
     MarkerCaption[BirthdayCategory] = "Name day";
     markAs(BirthdayCategory, "");
-    EXPECT_EQ(file(), "01:03:01:8388736");
-}
-
-TEST_F(MarkCommands, BirthdaysAndHolidaysAreNotCleared) {
-    folder.put("Holidays/2026Holidays.dat", "02/11/26:Valentine\r\n02/12/26:Other\r\n");
-    folder.put("Birthdays.dat", "02/12:00:Ann:****\r\n");
-    ReadBirthdays();
-    show(12, 2026, 2, 1);
-    click(2026, 2, 11);
-    dialogs.expect("Use the Holiday Manager to remove this mark.");
-    ClearMarkFromSelectedDate();
-    click(2026, 2, 12);
-    dialogs.expect("Use the Birthday Manager to remove this mark.");
-    ClearMarkFromSelectedDate();
-    ShowCategory(BirthdayCategory, false);
-    ShowCategory(HolidayCategory, false);
-    ClearMarkFromSelectedDate();
-    EXPECT_EQ(file(), "(none)");
+    EXPECT_EQ(file(), "01:04:01:8388736");
 }
 
 TEST_F(MarkCommands, YearsMarksAreDeletedAfterAQuestion) {
