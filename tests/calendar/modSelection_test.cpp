@@ -77,5 +77,7 @@ TEST_F(Selection, MenuFollowsWhatThePointerIsOver) {
         ShowHover(hover);
         EXPECT_TRUE(hover.hasNote == has && enabled["mnuOptDateAttachHoverText"] == has) << day;
     }
+    click(2026, 3, 2);
+    EXPECT_TRUE(enabled["mnuOptDateClearMark"] && !enabled["mnuOptDateQuickMark"]);
 }
 }  // namespace
