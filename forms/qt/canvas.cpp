@@ -24,11 +24,6 @@ QColor FromColor(Color color) {
             static_cast<int>((color >> 16) & 0xFF)};
 }
 
-Color ToColor(const QColor& color) {
-    return static_cast<Color>(color.red()) | static_cast<Color>(color.green()) << 8 |
-           static_cast<Color>(color.blue()) << 16;
-}
-
 namespace {
 /// "MS Sans Serif" is the face of the windows' own texts, whatever that is here; Arial has substitutes of the same
 /// widths, by their names on the systems there are.

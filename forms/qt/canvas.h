@@ -9,7 +9,6 @@
 #include "forms/canvas.h"
 
 QColor FromColor(Color color);
-Color ToColor(const QColor& color);
 
 /// The toolkit's font of a canvas font. Names that are not installed get a face with Arial's metrics.
 QFont FromFont(const Font& font);

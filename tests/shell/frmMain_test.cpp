@@ -147,7 +147,7 @@ TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     EXPECT_EQ(window_->cmbDay->currentText() + window_->lblHoliday->text(), QStringLiteral("18No Holiday Assigned"));
     EXPECT_EQ(window_->lblMonth->text() + window_->lblX->text() + window_->lblY->text(), QStringLiteral("1032"));
     window_->item(QStringLiteral("mnuOptDateQuickMark"))->trigger();
-    EXPECT_EQ(ToColor(november->grab().toImage().pixelColor(middle + QPoint(-8, -7))), QuickMarksColor);
+    EXPECT_EQ(november->grab().toImage().pixelColor(middle + QPoint(-8, -7)), FromColor(QuickMarksColor));
     dialogs.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
     EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
@@ -242,7 +242,7 @@ TEST_F(MainWindowTest, PanelsLeaveTheCalendarItsRoomAndResizingReadsNoFile) {
         EXPECT_TRUE(window_->picBottom[0]->isVisible());
     }
     const QPoint marked = MiddleOfDay(picture(10), MakeDate(2026, 11, 16)) + QPoint(-8, -7);
-    EXPECT_EQ(ToColor(picture(10)->grab().toImage().pixelColor(marked)), MeetingColor);
+    EXPECT_EQ(picture(10)->grab().toImage().pixelColor(marked), FromColor(MeetingColor));
 }
 
 TEST_F(MainWindowTest, FillsThePanelsAfterTheCalendarThoughAFileIsReportedBeforeIt) {
