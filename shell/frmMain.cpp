@@ -9,7 +9,6 @@
 #include <QMenuBar>
 #include <QPointer>
 #include <QScreen>
-#include <QStyleOptionComboBox>
 #include <QTimer>
 #include <algorithm>
 #include <utility>
@@ -26,6 +25,7 @@
 #include "forms/qt/fittingLabel.h"
 #include "forms/qt/leaving.h"
 #include "forms/qt/lists.h"
+#include "forms/qt/picker.h"
 #include "forms/qt/text.h"
 #include "marks/modCategories.h"
 #include "marks/modMarkCommands.h"
@@ -54,23 +54,6 @@ QStringList Numbers(int first, int last) {
     for (int number = first; number <= last; ++number) numbers += QString::number(number);
     return numbers;
 }
-
-/// A list of texts one of which is known to be the longest: at the start of the program nobody waits until every one of
-/// them has been measured.
-class Picker : public QComboBox {
-  public:
-    Picker(QString longest, QWidget* parent) : QComboBox(parent), longest_(std::move(longest)) {}
-    QSize sizeHint() const override {
-        QStyleOptionComboBox option;
-        initStyleOption(&option);
-        const QSize text(fontMetrics().horizontalAdvance(longest_), fontMetrics().height() + 2);
-        return style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, this);
-    }
-    QSize minimumSizeHint() const override { return sizeHint(); }
-
-  private:
-    QString longest_;
-};
 
 QStringList MonthNames() {
     QStringList names;
@@ -142,18 +125,13 @@ void frmMain::buildMenus() {
     };
 }
 
-QComboBox* frmMain::picker(const QString& name, const QString& spoken, const QStringList& items, const QString& longest,
-                           int visible) {
-    auto* box = Named(new Picker(longest, picTop), name, spoken);
-    box->addItems(items);
-    box->setMaxVisibleItems(visible);
-    box->setLineEdit(new QLineEdit(box));  // makes it editable, and its list of items only when that is opened
-    box->setInsertPolicy(QComboBox::NoInsert);
+void frmMain::addPicker(QComboBox*& box, const QString& name, const QString& spoken, Picker* picker) {
+    box = Named(picker, name, spoken);
     box->setToolTip(spoken);
     box->lineEdit()->setObjectName(name + QStringLiteral("_text"));
     box->lineEdit()->setAccessibleName(spoken);
     box->installEventFilter(this);  // it has the focus: keys are sent to it, not to its line edit
-    return box;
+    picTop->layout()->addWidget(box);
 }
 
 void frmMain::buildTopStrip() {
@@ -163,13 +141,16 @@ void frmMain::buildTopStrip() {
     row->setContentsMargins(8, 2, 8, 2);
     row->setSpacing(4);
     row->addWidget(Label(QStringLiteral("lblSelect"), QStringLiteral("Select >"), picTop));
-    row->addWidget(cmbMonth = picker(QStringLiteral("cmbMonth"), QStringLiteral("Month"), MonthNames(),
-                                     QStringLiteral("September"), 12));
-    row->addWidget(
-        cmbDay = picker(QStringLiteral("cmbDay"), QStringLiteral("Day"), Numbers(1, 31), QStringLiteral("30"), 16));
-    row->addWidget(cmbYear = picker(QStringLiteral("cmbYear"), QStringLiteral("Year"), Numbers(2008, 2020),
-                                    QStringLiteral("2000"), 13));
-    cmbYear->setCompleter(nullptr);  // "20" is 2020, not the first year of the list that begins so
+    addPicker(cmbMonth, QStringLiteral("cmbMonth"), QStringLiteral("Month"),
+              new Picker(MonthNames(), QStringLiteral("September"), true, picTop));
+    addPicker(cmbDay, QStringLiteral("cmbDay"), QStringLiteral("Day"),
+              new Picker(Numbers(1, 31), QStringLiteral("30"), true, picTop));
+    // It offers nothing: "20" is 2020, not the first year of the list that begins so.
+    addPicker(cmbYear, QStringLiteral("cmbYear"), QStringLiteral("Year"),
+              new Picker(Numbers(2008, 2020), QStringLiteral("2000"), false, picTop));
+    cmbMonth->setMaxVisibleItems(12);
+    cmbDay->setMaxVisibleItems(16);
+    cmbYear->setMaxVisibleItems(13);
     new Leaving(cmbYear, [this] { cmbYear_LostFocus(); });
     const std::array<QString, 2> optTips{QStringLiteral("Advance Calendar to Selected Date"),
                                          QStringLiteral("Open Notes for Selected Date")};

@@ -14,6 +14,8 @@
 #include "forms/qt/pictureButton.h"
 #include "forms/qt/window.h"
 
+class Picker;
+
 class frmMain : public Window {
     Q_OBJECT
 
@@ -69,8 +71,7 @@ class frmMain : public Window {
   private:
     void buildMenus();
     void buildTopStrip();
-    QComboBox* picker(const QString& name, const QString& spoken, const QStringList& items, const QString& longest,
-                      int visible);
+    void addPicker(QComboBox*& box, const QString& name, const QString& spoken, Picker* picker);
     void buildIndicators(QWidget* strip);
     void buildRightPanel();
     QWidget* makeRightPanel();
