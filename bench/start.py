@@ -6,10 +6,10 @@
 BUILD is a release build with the benches, DATA a data folder (it is copied). Both programs are started in turn under
 Xvfb with a window manager and a session bus; printed are the medians of the pairs' ratios.
 
-2026-11-23, Debian 12, four virtual cores, a run of 151 pairs and several of 31 and 41: 1.07 of the floor (1.02 to 1.09;
-48 against 45 ms; aim: 1.10); processor time 1.16 (1.14 to 1.18; 37 against 32 ms; aim: 1.15) until the view is there,
-1.33 (1.31 to 1.36) with the panels that follow it; peak memory 1.15 (aim: 1.25). Scanning the fonts beside the rest
-costs 1.7 ms of processor time more than after it, and saves 3 ms of waiting.
+2026-11-23, Debian 12, four virtual cores, a run of 151 pairs (and three of 31): 1.05 of the floor (1.01 to 1.05; 47
+against 44 ms; aim: 1.10); processor time until the view is there 1.145 (1.12 to 1.16; 36 against 32 ms; aim: 1.15), with
+the panels that follow it 1.32 (1.28 to 1.34); peak memory 1.15 (aim: 1.25). With the scan of the fonts begun at once
+1.03 and 1.165, without one beside the rest 1.08 and 1.14.
 """
 import ctypes
 import os

@@ -2,11 +2,22 @@
 #include "forms/qt/warmUp.h"
 
 #include <QThreadPool>
+#include <chrono>
 
 #ifdef TASMORO_FONTCONFIG
 #include <fontconfig/fontconfig.h>
 
-FontScan::FontScan() : thread_([] { FcInit(); }) {}
+namespace {
+/// The making of the application object begins by loading libraries. A scan at that moment and the loading slow each
+/// other down, by a millisecond of processor time together; later it falls into the waiting for the screen's server.
+constexpr std::chrono::milliseconds LibrariesFirst(4);
+}  // namespace
+
+FontScan::FontScan()
+    : thread_([] {
+          std::this_thread::sleep_for(LibrariesFirst);
+          FcInit();
+      }) {}
 #else
 FontScan::FontScan() = default;
 #endif
