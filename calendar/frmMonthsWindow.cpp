@@ -133,7 +133,7 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
             return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            OpenNoteOfPickers();
+            openNote();
             return;
         case Qt::Key_Menu:
             openDateMenu();
@@ -157,6 +157,12 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
 void MonthsWindow::openDateMenu() {
     for (auto* month : pictures_)
         if (month->holdsSelection()) return month->openMenuOfSelection();
+}
+
+/// Of the day in the frame, whoever put the frame there.
+void MonthsWindow::openNote() {
+    if (std::any_of(pictures_.begin(), pictures_.end(), [](const auto* month) { return month->holdsSelection(); }))
+        OpenNoteOfSelection();
 }
 
 bool MonthsWindow::moveSelection(int key) {

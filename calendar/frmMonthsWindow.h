@@ -57,6 +57,7 @@ class MonthsWindow : public Window {
 
   private:
     bool moveSelection(int key);
+    void openNote();
     void openDateMenu();
     void repaintLater();
     void repaintNow();

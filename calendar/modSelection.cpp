@@ -142,3 +142,7 @@ void OpenNoteOfPickers() {
         DisplayThisNote();
     });
 }
+
+void OpenNoteOfSelection() {
+    if (!TemplateMode) DisplayThisNote();
+}

@@ -32,5 +32,8 @@ void ShowHover(const Hover& hover);
 /// Opens the note of the date in the pickers if it is the date last clicked. An impossible date is reported.
 void OpenNoteOfPickers();
 
+/// Opens the selected date's note. The template's days have none.
+void OpenNoteOfSelection();
+
 /// The date in the cell of a shown month; the cell must hold one.
 Date DateAt(const ShownMonth& shown, Cell cell);

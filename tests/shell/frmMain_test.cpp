@@ -78,6 +78,10 @@ TEST_F(MainWindowTest, OneCalendarWindowAtATime) {
         QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Right);
         EXPECT_EQ(window_->windowTitle(), QLatin1String(title));
     }
+    QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Return);
+    ASSERT_NE(OpenedWindow<frmNotes>(), nullptr) << "the note of the day in the frame, which nobody has clicked";
+    EXPECT_EQ(Notes.openDate, MakeDate(2027, 1, 1));
+    OpenedWindow<frmNotes>()->close();
     QTest::keyClick(OpenedWindow<frmMonth>(), Qt::Key_Escape);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_EQ(OpenedWindow<frmMonth>(), nullptr);
