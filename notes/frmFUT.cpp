@@ -12,7 +12,6 @@
 #include <QTimer>
 
 #include "base/dialogs.h"
-#include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "notes/frmAddFUT.h"
 #include "notes/frmEditFUT.h"
@@ -41,7 +40,7 @@ void TermsList::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Left || event->key() == Qt::Key_Insert)
         Q_EMIT insertPressed();
     else if (event->key() != Qt::Key_Right)
-        QListWidget::keyPressEvent(event);
+        ListBox::keyPressEvent(event);
 }
 
 void TermsList::startDrag(Qt::DropActions) {
@@ -75,7 +74,7 @@ frmFUT::~frmFUT() {
 
 void frmFUT::makeControls() {
     lstFUT = Named(new TermsList, QStringLiteral("lstFUT"), QStringLiteral("Frequently used terms"));
-    lstMoreFUT = Named(new QListWidget, QStringLiteral("lstMoreFUT"), QStringLiteral("Lists of terms"));
+    lstMoreFUT = Named(new ListBox, QStringLiteral("lstMoreFUT"), QStringLiteral("Lists of terms"));
     lstMoreFUT->installEventFilter(this);
     picOpt = Named(new QWidget, QStringLiteral("picOpt"));
     static constexpr std::array Options{"Add New Term to List", "Edit Selected Term", "Disable Auto Complete",

@@ -1,15 +1,15 @@
 // The window of frequently used terms: the current list, its commands, and the choice among lists.
 #pragma once
 
-#include <QListWidget>
 #include <QPushButton>
 #include <array>
 
+#include "forms/qt/lists.h"
 #include "forms/qt/menus.h"
 #include "forms/qt/window.h"
 
 /// The terms: one can be dragged into a note, or put there by a key.
-class TermsList : public QListWidget {
+class TermsList : public ListBox {
     Q_OBJECT
 
   public:

@@ -8,6 +8,7 @@
 
 #include "base/dialogs.h"
 #include "base/text.h"
+#include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 
 namespace {
@@ -36,7 +37,7 @@ void KeepSelectionVisible(QWidget* box) {
 
 frmHelp::frmHelp() : Window("frmHelp", QStringLiteral("Tasmoro Help")) {
     framTopics = Named(new QGroupBox(QStringLiteral("Help Topics")), QStringLiteral("framTopics"));
-    lstHelp = Named(new QListWidget, QStringLiteral("lstHelp"), QStringLiteral("Help Topics"));
+    lstHelp = Named(new ListBox, QStringLiteral("lstHelp"), QStringLiteral("Help Topics"));
     lstHelp->setUniformItemSizes(true);
     framDesc = Named(new QGroupBox(QStringLiteral("Topic Description")), QStringLiteral("framDesc"));
     txtHelp = Named(new QPlainTextEdit, QStringLiteral("txtHelp"), QStringLiteral("Topic Description"));

@@ -23,7 +23,7 @@ frmNoteList::frmNoteList() : Window("frmNoteList", QStringLiteral("Notes Managem
     cmbMonth = Named(new QComboBox, QStringLiteral("cmbMonth"), QStringLiteral("Month"));
     cmdLoad = button("&Check Now", "cmdLoad");
     lblList = Named(new QLabel(QStringLiteral("&Notes Listed by Date Below")), QStringLiteral("lblList"));
-    lst = Named(new QListWidget, QStringLiteral("lst"), QStringLiteral("Notes by date"));
+    lst = Named(new ListBox, QStringLiteral("lst"), QStringLiteral("Notes by date"));
     lst->setSelectionMode(QAbstractItemView::ExtendedSelection);
     cmdOpen = button("&Open Selected Note", "cmdOpen");
     cmdDelete = button("&Delete Selected Notes", "cmdDelete");

@@ -53,8 +53,7 @@ void frmSearch::makeControls() {
                       QStringLiteral("Begin Search"));
     framOccurences = Named(new QGroupBox(QStringLiteral("Occurences")), QStringLiteral("framOccurences"),
                            QStringLiteral("Occurences"));
-    lstResults =
-        Named(new QListWidget, QStringLiteral("lstResults"), QStringLiteral("Dates whose notes hold the phrase"));
+    lstResults = Named(new ListBox, QStringLiteral("lstResults"), QStringLiteral("Dates whose notes hold the phrase"));
     cmdOpen = Named(new QPushButton(QStringLiteral("&View Selected")), QStringLiteral("cmdOpen"),
                     QStringLiteral("View Selected"));
     FillYears(cmbYear);

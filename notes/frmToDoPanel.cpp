@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "forms/qt/fittingLabel.h"
+#include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "forms/qt/window.h"
 
@@ -31,7 +32,7 @@ ToDoPanel::ToDoPanel(QWidget* parent) : QWidget(parent) {
                    QStringLiteral("lblTop"));
     for (int item = 1; item <= ToDoRows; ++item) makeItem(item);
     lblOtherToDo = Named(new QLabel(QStringLiteral("Other To Do Lists"), this), QStringLiteral("lblOtherToDo"));
-    lstOtherToDo = Named(new QListWidget(this), QStringLiteral("lstOtherToDo"), QStringLiteral("Other To Do Lists"));
+    lstOtherToDo = Named(new ListBox(this), QStringLiteral("lstOtherToDo"), QStringLiteral("Other To Do Lists"));
     lblOtherToDo->hide();
     lstOtherToDo->hide();
     ShowToDo = [this] { refresh(); };

@@ -82,7 +82,7 @@ void frmAlert::makeMessageAndLists() {
     lblList = Named(new QLabel(QStringLiteral("Active Alert List")), QStringLiteral("lblList"));
     for (int element : {1, 2}) {
         lstAlerts[At(element)] =
-            Named(new QListWidget, ElementName("lstAlerts", element),
+            Named(new ListBox, ElementName("lstAlerts", element),
                   element == 1 ? QStringLiteral("Active alerts by date") : QStringLiteral("Active alerts by message"));
         lstAlerts[At(element)]->setUniformItemSizes(true);
     }

@@ -89,7 +89,7 @@ void frmBDay::makePeriods() {
 void frmBDay::makeLists() {
     for (int element : {1, 2}) {
         QListWidget* list =
-            Named(new QListWidget, ElementName("lstData", element),
+            Named(new ListBox, ElementName("lstData", element),
                   element == 1 ? QStringLiteral("Birthdays by month") : QStringLiteral("Birthdays by name"));
         list->setSelectionMode(QAbstractItemView::ExtendedSelection);
         list->setUniformItemSizes(true);

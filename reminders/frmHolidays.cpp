@@ -33,7 +33,7 @@ void frmHolidays::makeControls() {
         QStringLiteral("Pick a year, or type any other and choose New Holiday List from the File menu"));
     lblYear->setBuddy(cmbYear);
     lblList = Named(new QLabel(QStringLiteral("Holiday List - Click to Select")), QStringLiteral("lblList"));
-    lstHolidays = Named(new QListWidget, QStringLiteral("lstHolidays"), QStringLiteral("Holiday List"));
+    lstHolidays = Named(new ListBox, QStringLiteral("lstHolidays"), QStringLiteral("Holiday List"));
     lstHolidays->setUniformItemSizes(true);
     Label1 = Named(new QLabel(QStringLiteral("Date")), QStringLiteral("Label1"));
     txtDate = Named(new QLineEdit, QStringLiteral("txtDate"), QStringLiteral("Date"));

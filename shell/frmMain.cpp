@@ -223,7 +223,7 @@ QWidget* frmMain::makeRightPanel() {
     const auto list = [&](const char* label, const char* caption, const char* name, QLabel*& date, const char* dateName,
                           const char* dateCaption) {
         column->addWidget(Label(QString::fromLatin1(label), QString::fromLatin1(caption), panel));
-        auto* box = Named(new QListWidget(panel), QString::fromLatin1(name), QString::fromLatin1(caption));
+        auto* box = Named(new ListBox(panel), QString::fromLatin1(name), QString::fromLatin1(caption));
         box->setMinimumHeight(60);
         column->addWidget(box, 3);
         column->addWidget(date = Label(QString::fromLatin1(dateName), QString::fromLatin1(dateCaption), panel));

@@ -1,11 +1,20 @@
 // List boxes and combo boxes as pictures of tables.
 #include "forms/qt/lists.h"
 
+#include <QKeyEvent>
 #include <QSignalBlocker>
 #include <algorithm>
 
 #include "base/listEntries.h"
 #include "forms/qt/text.h"
+
+void ListBox::keyPressEvent(QKeyEvent* event) {
+    const bool arrow = event->key() == Qt::Key_Down || event->key() == Qt::Key_Up;
+    if (arrow && currentRow() >= 0 && SelectedRow(this) < 0)
+        setCurrentRow(currentRow(), QItemSelectionModel::ClearAndSelect);
+    else
+        QListWidget::keyPressEvent(event);
+}
 
 void ShowEntries(QListWidget* list, const std::vector<std::string>& entries) {
     const QSignalBlocker quiet(list);

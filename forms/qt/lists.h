@@ -6,6 +6,18 @@
 #include <string>
 #include <vector>
 
+/// A list box. One that gets the focus by Tab has a current row that is not selected: the first arrow key selects that
+/// row instead of passing it.
+class ListBox : public QListWidget {
+    Q_OBJECT
+
+  public:
+    using QListWidget::QListWidget;
+
+  protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
 /// Shows the entries; of those that stand for records only the visible text. The whole entry stays with its row
 /// (EntryAt). Keeps the current row where it can. Fires no event.
 void ShowEntries(QListWidget* list, const std::vector<std::string>& entries);
