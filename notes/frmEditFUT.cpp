@@ -7,6 +7,7 @@
 #include "base/dialogs.h"
 #include "forms/qt/text.h"
 #include "notes/modFUT.h"
+#include "shell/modPreferences.h"
 
 frmEditFUT::frmEditFUT() : Window("frmEditFUT", QStringLiteral("Edit Frequently Used Term")) {
     // The terms window, from which this one is opened, stands above all others.
@@ -36,6 +37,7 @@ frmEditFUT::frmEditFUT() : Window("frmEditFUT", QStringLiteral("Edit Frequently 
 void frmEditFUT::edit(const std::string& term) {
     if (!queryUnload()) return;
     term_ = term;
+    file_ = CurrentTermsFile;
     txtEditFUT->setText(FromText(term));
     shown_ = txtEditFUT->text();
     txtEditFUT->selectAll();
@@ -47,6 +49,11 @@ void frmEditFUT::cmdSave_Click() {
 }
 
 bool frmEditFUT::save() {
+    if (CurrentTermsFile != file_) {
+        ShowMessage("The term belongs to the list \"" + TermsListName(file_) +
+                    "\", and another list is shown. Show that one to save the change.");
+        return false;
+    }
     const auto text = LineToSave(txtEditFUT->text());
     if (!text || !ChangeTerm(term_, *text)) return false;
     shown_ = txtEditFUT->text();

@@ -29,5 +29,6 @@ class frmEditFUT : public Window {
     bool save();
 
     std::string term_;
-    QString shown_;  // as the box showed it before anybody typed, or when it was saved last
+    std::string file_;  // the list that it belongs to
+    QString shown_;     // as the box showed it before anybody typed, or when it was saved last
 };

@@ -88,6 +88,12 @@ TEST_F(TermsWindow, AsksBeforeTypedTermsGo) {
     dialogs.expect("The term has been changed.", Answer::Yes);
     window->cmdOpt[1]->click();
     EXPECT_EQ(edit->txtEditFUT->text(), QStringLiteral("vet"));
+    edit->txtEditFUT->setText(QStringLiteral("farrier"));
+    CurrentTermsFile = "Work.fut";
+    dialogs.expect("The term belongs to the list \"Home\"");
+    edit->cmdSave->click();
+    CurrentTermsFile = "Home.fut";
+    edit->txtEditFUT->setText(QStringLiteral("vet"));
     EXPECT_TRUE(edit->close());
     EXPECT_EQ(folder.get("Home.fut"), "doctor\xE9\r\nplumber\r\nvet");
 }
