@@ -7,6 +7,7 @@
 #include "base/state.h"
 #include "calendar/modCalendar.h"
 #include "calendar/modPaint.h"
+#include "calendar/modSelection.h"
 #include "calendar/modShell.h"
 #include "marks/modCategories.h"
 #include "marks/modIcons.h"
@@ -118,8 +119,16 @@ void LoadNextYear() {
     ReadNextYearsNotes();
 }
 
+/// The items act on the selected date, whichever way it was selected: by a click or, since then, with a view.
+void EnableItemsOfSelection() {
+    for (const ShownMonth& shown : ShownMonths)
+        if (shown.year == YearOf(SelectedDate) && shown.month == MonthOf(SelectedDate) - 1)
+            EnableMarkItems(shown.slot, CellOf(SelectedDate));
+}
+
 void FinishView(const std::string& caption) {
     Tell(Shell.setCaption, caption);
+    if (!TemplateMode) EnableItemsOfSelection();
     Tell(Shell.showDrawn);
 }
 

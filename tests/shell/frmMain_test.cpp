@@ -155,6 +155,13 @@ TEST_F(MainWindowTest, ADayIsSelectedMarkedAndKept) {
     dialogs.expectInput("Optional Hover Text for Nov 18, 2026", "Lunch");
     window_->item(QStringLiteral("mnuOptDateMarkAs(9)"))->trigger();
     EXPECT_EQ(folder.get("2026Marks.dat"), "10:01:02:255-Dentist\r\n10:03:02:255-Lunch");
+    for (const auto& [day, marked] : {std::pair{"17", false}, {"16", true}}) {
+        pick("November", day, "2026");
+        QTest::mouseClick(window_->imgOpt[0], Qt::LeftButton);
+        EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateClearMark"))->isEnabled(), marked)
+            << "the date of the pickers";
+        EXPECT_EQ(window_->item(QStringLiteral("mnuOptDateQuickMark"))->isEnabled(), !marked);
+    }
 }
 
 TEST_F(MainWindowTest, KeysMoveTheSelectionWithinTheViewAndTheMenuKeyOpensItsMenu) {
