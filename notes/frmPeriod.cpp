@@ -7,15 +7,11 @@
 #include "base/clock.h"
 #include "base/dates.h"
 #include "base/text.h"
+#include "forms/qt/dateBoxes.h"
 #include "forms/qt/text.h"
 
-namespace {
-constexpr int FirstListed = 2008;
-constexpr int LastListed = 2020;
-}  // namespace
-
 void FillYears(QComboBox* box) {
-    for (int year = FirstListed; year <= LastListed; ++year) box->addItem(QString::number(year));
+    box->addItems(ListedYears());
     box->setEditable(true);
     box->setInsertPolicy(QComboBox::NoInsert);
     box->setCompleter(nullptr);
@@ -24,7 +20,7 @@ void FillYears(QComboBox* box) {
 
 void FillMonths(QComboBox* box) {
     box->addItem(QStringLiteral("All Months"));
-    for (int month = 1; month <= 12; ++month) box->addItem(FromText(MonthName(month)));
+    box->addItems(MonthNames());
 }
 
 int ChosenYear(QComboBox* box) {

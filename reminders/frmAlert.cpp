@@ -11,6 +11,7 @@
 
 #include "base/dialogs.h"
 #include "base/text.h"
+#include "forms/qt/dateBoxes.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "reminders/modAlerts.h"
@@ -194,9 +195,9 @@ void frmAlert::layOut() {
 }
 
 void frmAlert::LoadComboBoxes() {
-    for (int month = 1; month <= 12; ++month) cmbMonth->addItem(FromText(MonthName(month)));
-    for (int day = 1; day <= 31; ++day) cmbDay->addItem(QString::number(day));
-    for (int year = 2008; year <= 2020; ++year) cmbYear->addItem(QString::number(year));
+    cmbMonth->addItems(MonthNames());
+    cmbDay->addItems(DayNumbers());
+    cmbYear->addItems(ListedYears());
 }
 
 // -- Showing --------------------------------------------------------------------------------------------------------
@@ -239,11 +240,7 @@ void frmAlert::showSelected() {
 void frmAlert::showDate() {
     txtDate->setText(FromText(AlertList.edit.date));
     if (AlertDateTyped(AlertList.edit.date) != AlertList.date) return;  // no date: the boxes stay
-    const YearMonthDay day = PartsOf(AlertList.date);
-    ShowInBox(cmbMonth, day.month - 1, FromText(FormatDate(AlertList.date, "mmmm")));
-    ShowInBox(cmbDay, day.day - 1, FromText(FormatDate(AlertList.date, "dd")));
-    const QString year = FromText(FormatDate(AlertList.date, "yyyy"));
-    ShowInBox(cmbYear, cmbYear->findText(year), year);
+    ShowDateInBoxes(cmbMonth, cmbDay, cmbYear, AlertList.date, "dd");
 }
 
 void frmAlert::showPeriodChoice() {

@@ -9,6 +9,7 @@
 #include <algorithm>
 
 #include "base/dialogs.h"
+#include "forms/qt/dateBoxes.h"
 #include "forms/qt/lists.h"
 #include "forms/qt/text.h"
 #include "reminders/modHolidayManager.h"
@@ -95,7 +96,7 @@ void frmHolidays::layOut() {
 
 void frmHolidays::PopulateComboList() {
     const QSignalBlocker quiet(cmbYear);
-    for (int year = 2008; year <= 2020; ++year) cmbYear->addItem(QString::number(year));
+    cmbYear->addItems(ListedYears());
 }
 
 // -- Showing --------------------------------------------------------------------------------------------------------
@@ -117,10 +118,7 @@ void frmHolidays::selectLine(int entry) {
     lstHolidays->setCurrentRow(entry);
 }
 
-void frmHolidays::showYear() {
-    const QString year = FromText(HolidayList.year);
-    ShowInBox(cmbYear, cmbYear->findText(year), year);
-}
+void frmHolidays::showYear() { ShowYearInBox(cmbYear, HolidayList.year); }
 
 void frmHolidays::showEntry(int entry) {
     showEdit(FromText(HolidayDateShown(entry)), FromText(HolidayDescription(entry)));

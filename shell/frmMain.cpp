@@ -22,6 +22,7 @@
 #include "calendar/modPaint.h"
 #include "calendar/modShell.h"
 #include "calendar/modViews.h"
+#include "forms/qt/dateBoxes.h"
 #include "forms/qt/fittingLabel.h"
 #include "forms/qt/leaving.h"
 #include "forms/qt/lists.h"
@@ -48,18 +49,6 @@ namespace {
 constexpr int TopStripHeight = 495;  // twips
 constexpr int RightPanelWidth = 3450;
 constexpr int StatusStripHeight = 360;
-
-QStringList Numbers(int first, int last) {
-    QStringList numbers;
-    for (int number = first; number <= last; ++number) numbers += QString::number(number);
-    return numbers;
-}
-
-QStringList MonthNames() {
-    QStringList names;
-    for (int month = 1; month <= 12; ++month) names += FromText(MonthName(month));
-    return names;
-}
 
 /// Shows a panel in the place that is kept for it.
 void PutIn(QWidget* place, QWidget* panel, const QMargins& margins) {
@@ -144,10 +133,10 @@ void frmMain::buildTopStrip() {
     addPicker(cmbMonth, QStringLiteral("cmbMonth"), QStringLiteral("Month"),
               new Picker(MonthNames(), QStringLiteral("September"), true, picTop));
     addPicker(cmbDay, QStringLiteral("cmbDay"), QStringLiteral("Day"),
-              new Picker(Numbers(1, 31), QStringLiteral("30"), true, picTop));
+              new Picker(DayNumbers(), QStringLiteral("30"), true, picTop));
     // It offers nothing: "20" is 2020, not the first year of the list that begins so.
     addPicker(cmbYear, QStringLiteral("cmbYear"), QStringLiteral("Year"),
-              new Picker(Numbers(2008, 2020), QStringLiteral("2000"), false, picTop));
+              new Picker(ListedYears(), QStringLiteral("2000"), false, picTop));
     cmbMonth->setMaxVisibleItems(12);
     cmbDay->setMaxVisibleItems(16);
     cmbYear->setMaxVisibleItems(13);
@@ -300,10 +289,7 @@ void frmMain::fillShellCalls() {
     Shell.setCaption = [this](const std::string& caption) { setWindowTitle(FromText(caption)); };
     Shell.enableItem = [this](const char* item, bool enabled) { menus_.enable(QString::fromLatin1(item), enabled); };
     Shell.showInPickers = [this](Date date) {
-        ShowInBox(cmbMonth, MonthOf(date) - 1, FromText(FormatDate(date, "mmmm")));
-        ShowInBox(cmbDay, DayOf(date) - 1, FromText(FormatDate(date, "d")));
-        const QString year = FromText(FormatDate(date, "yyyy"));
-        ShowInBox(cmbYear, cmbYear->findText(year), year);
+        ShowDateInBoxes(cmbMonth, cmbDay, cmbYear, date, "d");
         for (auto* box : {cmbMonth, cmbDay, cmbYear}) box->lineEdit()->deselect();
     };
     Shell.dateOfPickers = [this] {

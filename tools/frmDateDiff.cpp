@@ -8,15 +8,12 @@
 
 #include "base/clock.h"
 #include "base/dialogs.h"
-#include "forms/qt/lists.h"
+#include "forms/qt/dateBoxes.h"
 #include "forms/qt/text.h"
 #include "shell/modErrors.h"
 #include "tools/modDateDiff.h"
 
 namespace {
-constexpr int FirstListedYear = 2008;
-constexpr int LastListedYear = 2020;
-
 std::size_t At(int group) { return static_cast<std::size_t>(group); }
 
 /// A box with a list that also takes typed text, without completing it; never too narrow for so many characters.
@@ -29,14 +26,6 @@ QComboBox* EditableBox(const char* name, int group, const QString& spoken, int c
     return box;
 }
 
-void AddNumbers(QComboBox* box, int first, int last) {
-    for (int number = first; number <= last; ++number) box->addItem(QString::number(number));
-}
-
-void SetQuietly(QComboBox* box, int entry, const std::string& text) {
-    const QSignalBlocker quiet(box);
-    ShowInBox(box, entry, FromText(text));
-}
 }  // namespace
 
 frmDateDiff::frmDateDiff() : Window("frmDateDiff", QStringLiteral("Date Difference")) {
@@ -69,9 +58,9 @@ void frmDateDiff::makeGroup(int group) {
     QComboBox* month = cmbMonth[At(group)] = EditableBox("cmbMonth", group, which + QStringLiteral("month"), 9);
     QComboBox* day = cmbDay[At(group)] = EditableBox("cmbDay", group, which + QStringLiteral("day"), 2);
     QComboBox* year = cmbYear[At(group)] = EditableBox("cmbYear", group, which + QStringLiteral("year"), 4);
-    for (int m = 1; m <= 12; ++m) month->addItem(FromText(MonthName(m)));
-    AddNumbers(day, 1, 31);
-    AddNumbers(year, FirstListedYear, LastListedYear);
+    month->addItems(MonthNames());
+    day->addItems(DayNumbers());
+    year->addItems(ListedYears());
     txtInput[At(group)] = Named(new QLineEdit, ElementName("txtInput", group), which + QStringLiteral("date"));
     showToday(group);
     for (QComboBox* box : {month, day, year})
@@ -136,10 +125,13 @@ void frmDateDiff::txtInput_LostFocus(int group) {
     const auto date = ReadDate(ToText(txtInput[At(group)]->text()));
     if (!date) return;
     txtInput[At(group)]->setText(FromText(DateBoxText(*date)));
-    const std::string year = FormatDate(*date, "yyyy");
-    SetQuietly(cmbMonth[At(group)], MonthOf(*date) - 1, FormatDate(*date, "mmmm"));
-    SetQuietly(cmbDay[At(group)], DayOf(*date) - 1, FormatDate(*date, "dd"));
-    SetQuietly(cmbYear[At(group)], cmbYear[At(group)]->findText(FromText(year)), year);
+    QComboBox* month = cmbMonth[At(group)];
+    QComboBox* day = cmbDay[At(group)];
+    QComboBox* year = cmbYear[At(group)];
+    const QSignalBlocker quietMonth(month);
+    const QSignalBlocker quietDay(day);
+    const QSignalBlocker quietYear(year);
+    ShowDateInBoxes(month, day, year, *date, "dd");
 }
 
 /// "Day of Year" has no interval of its own: the one before stays.

@@ -1,4 +1,4 @@
-// List boxes and combo boxes as pictures of tables.
+// List boxes as pictures of tables.
 #include "forms/qt/lists.h"
 
 #include <QKeyEvent>
@@ -28,11 +28,6 @@ void ShowEntries(QListWidget* list, const std::vector<std::string>& entries) {
     for (int i = 0; i < list->count(); ++i)
         list->item(i)->setData(Qt::UserRole, QByteArray::fromStdString(entries[static_cast<std::size_t>(i)]));
     list->setCurrentRow(std::min(row, list->count() - 1));
-}
-
-void ShowInBox(QComboBox* box, int entry, const QString& text) {
-    box->setCurrentIndex(entry);
-    box->setEditText(text);
 }
 
 std::string EntryAt(const QListWidget* list, int row) {

@@ -1,7 +1,6 @@
-// List boxes and combo boxes as pictures of tables.
+// List boxes as pictures of tables.
 #pragma once
 
-#include <QComboBox>
 #include <QListWidget>
 #include <string>
 #include <vector>
@@ -21,10 +20,6 @@ class ListBox : public QListWidget {
 /// Shows the entries; of those that stand for records only the visible text. The whole entry stays with its row
 /// (EntryAt). Keeps the current row where it can. Fires no event.
 void ShowEntries(QListWidget* list, const std::vector<std::string>& entries);
-
-/// Shows the text in a box that also takes typed text, and makes `entry` the current one of its list (-1 for none): the
-/// arrow keys and the opened list go on from what is shown.
-void ShowInBox(QComboBox* box, int entry, const QString& text);
 
 /// The whole entry of a row; "" for a row that is not there.
 std::string EntryAt(const QListWidget* list, int row);
