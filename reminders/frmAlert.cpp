@@ -335,11 +335,13 @@ void frmAlert::select(int entry) {
 
 void frmAlert::lstAlerts_Click(int entry) {
     if (entry < 0 || entry >= lstAlerts[1]->count()) return;
-    const std::string line = AlertLineOfEntry(entry);
-    if (!mayLeaveEdit()) return showSelected();
-    const int now = AlertEntryOfLine(line);
-    if (now < 0) return;  // the save has put another line in its place
-    SelectAlert(now);
+    if (isEdited()) {
+        const std::string line = AlertLineOfEntry(entry);
+        if (!mayLeaveEdit()) return showSelected();
+        entry = AlertEntryOfLine(line);
+        if (entry < 0) return;  // the save has put another line in its place
+    }
+    SelectAlert(entry);
     showEdit();
 }
 

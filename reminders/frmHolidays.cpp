@@ -108,9 +108,8 @@ void frmHolidays::showList(int entry) {
 }
 
 void frmHolidays::showLines(int entry) {
-    const QSignalBlocker quiet(lstHolidays);
     ShowEntries(lstHolidays, HolidayList.lines);
-    lstHolidays->setCurrentRow(entry);
+    selectLine(entry);
 }
 
 void frmHolidays::selectLine(int entry) {
@@ -132,11 +131,12 @@ void frmHolidays::showEdit(const QString& date, const QString& description) {
     shownDescription_ = txtDesc->text();
 }
 
+bool frmHolidays::isEdited() const { return txtDate->text() != shownDate_ || txtDesc->text() != shownDescription_; }
+
 /// Asks about what was typed before other things take its place.
 bool frmHolidays::mayLeaveEdit() {
-    if (txtDate->text() == shownDate_ && txtDesc->text() == shownDescription_) return true;
-    return AskToSave("The holiday has been changed. Do you want to save the changes?", "Holiday Has Changed",
-                     [this] { return save(); });
+    return !isEdited() || AskToSave("The holiday has been changed. Do you want to save the changes?",
+                                    "Holiday Has Changed", [this] { return save(); });
 }
 
 void frmHolidays::focusOn(QLineEdit* box) {
@@ -165,13 +165,16 @@ void frmHolidays::cmbYear_Click() {
 
 void frmHolidays::lstHolidays_Click(int entry) {
     if (entry < 0) return;
-    const std::string line = HolidayList.lines[static_cast<std::size_t>(entry)];
-    if (!mayLeaveEdit()) return selectLine(HolidayList.clicked);
-    const auto now = std::find(HolidayList.lines.begin(), HolidayList.lines.end(), line);
-    if (now == HolidayList.lines.end()) return;  // the save has put another line in its place
-    HolidayList.clicked = static_cast<int>(now - HolidayList.lines.begin());
-    selectLine(HolidayList.clicked);
-    showEntry(HolidayList.clicked);
+    if (isEdited()) {
+        const std::string line = HolidayList.lines[static_cast<std::size_t>(entry)];
+        if (!mayLeaveEdit()) return selectLine(HolidayList.clicked);
+        const auto now = std::find(HolidayList.lines.begin(), HolidayList.lines.end(), line);
+        if (now == HolidayList.lines.end()) return;  // the save has put another line in its place
+        entry = static_cast<int>(now - HolidayList.lines.begin());
+        selectLine(entry);
+    }
+    HolidayList.clicked = entry;
+    showEntry(entry);
 }
 
 bool frmHolidays::save() {

@@ -51,6 +51,7 @@ class frmHolidays : public Window {
     void showYear();
     void showEntry(int entry);
     void showEdit(const QString& date, const QString& description);
+    bool isEdited() const;
     bool mayLeaveEdit();
     bool save();
     void focusOn(QLineEdit* box);

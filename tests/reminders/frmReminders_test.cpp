@@ -195,6 +195,18 @@ TEST_F(ReminderWindows, ClicksAndMenusOfTheAlertList) {
     EXPECT_EQ(OpenedWindow<frmAlert>(), nullptr);
 }
 
+TEST_F(ReminderWindows, TheKeysPassEntriesThatAreTheSame) {
+    folder.put("Alerts.dat", "46349:0003:Twice\r\n46349:0003:Twice\r\n46350:0004:Later\r\n");
+    folder.put("Holidays/2026Holidays.dat", "07/04/26:Twice\r\n07/04/26:Twice\r\n12/25/26:Christmas\r\n");
+    ReadAlerts();
+    OpenAlertManager(false);
+    for (QListWidget* list : {OpenedWindow<frmAlert>()->lstAlerts[1], ShowWindow<frmHolidays>()->lstHolidays})
+        for (const int row : {1, 2}) {
+            QTest::keyClick(list, Qt::Key_Down);
+            EXPECT_EQ(list->currentRow(), row) << list->objectName().toStdString();
+        }
+}
+
 // What was typed goes only where the answer says so: by a click on another entry, by a new one, by closing.
 TEST_F(ReminderWindows, WhatWasTypedIsAskedAbout) {
     folder.put("Alerts.dat", "46349:0003:Soon\r\n46350:0004:Later\r\n");
