@@ -133,7 +133,7 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
             return;
         case Qt::Key_Return:
         case Qt::Key_Enter:
-            openNote();
+            if (framed() != nullptr) OpenNoteOfSelection();
             return;
         case Qt::Key_Menu:
             openDateMenu();
@@ -154,15 +154,15 @@ void MonthsWindow::keyPressEvent(QKeyEvent* event) {
     Window::keyPressEvent(event);
 }
 
-void MonthsWindow::openDateMenu() {
-    for (auto* month : pictures_)
-        if (month->holdsSelection()) return month->openMenuOfSelection();
+/// The month with the frame around the selected day, whoever put it there; null if no month has it.
+MonthPicture* MonthsWindow::framed() const {
+    const auto place =
+        std::find_if(pictures_.begin(), pictures_.end(), [](const auto* month) { return month->holdsSelection(); });
+    return place == pictures_.end() ? nullptr : *place;
 }
 
-/// Of the day in the frame, whoever put the frame there.
-void MonthsWindow::openNote() {
-    if (std::any_of(pictures_.begin(), pictures_.end(), [](const auto* month) { return month->holdsSelection(); }))
-        OpenNoteOfSelection();
+void MonthsWindow::openDateMenu() {
+    if (auto* month = framed()) month->openMenuOfSelection();
 }
 
 bool MonthsWindow::moveSelection(int key) {
@@ -173,12 +173,10 @@ bool MonthsWindow::moveSelection(int key) {
                                             : 0;
     if (days == 0) return false;
     const Date date = SelectedDate + days;
-    for (const ShownMonth& month : ShownMonths) {
-        if (month.year != YearOf(date) || month.month != MonthOf(date) - 1) continue;
+    if (const ShownMonth* month = ShownMonthOf(date)) {
         const Cell cell = CellOf(date);
-        SelectAt(month, cell.column + 0.5, cell.row + 1.25);
+        SelectAt(*month, cell.column + 0.5, cell.row + 1.25);
         for (auto* picture : pictures_) picture->showSelection();
-        return true;
     }
     return true;
 }

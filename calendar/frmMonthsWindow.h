@@ -57,7 +57,7 @@ class MonthsWindow : public Window {
 
   private:
     bool moveSelection(int key);
-    void openNote();
+    MonthPicture* framed() const;
     void openDateMenu();
     void repaintLater();
     void repaintNow();

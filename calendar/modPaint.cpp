@@ -80,6 +80,12 @@ void ContrastColor(Color color) {
         if (fill == color) MarkTextColor = text;
 }
 
+const ShownMonth* ShownMonthOf(Date date) {
+    for (const ShownMonth& shown : ShownMonths)
+        if (shown.year == YearOf(date) && shown.month == MonthOf(date) - 1) return &shown;
+    return nullptr;
+}
+
 void PaintDay(Year slot, Cell cell, int day, Color fill) {
     if (Paint.ofTemplate) return;
     ContrastColor(fill);

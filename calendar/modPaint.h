@@ -52,6 +52,9 @@ inline constexpr double GridHeight = 6.75;
 /// MarkTextColor keeps its value.
 void ContrastColor(Color color);
 
+/// The month on display that the date lies in; null if none is.
+const ShownMonth* ShownMonthOf(Date date);
+
 /// Paints the cell's day on every shown month of that slot: fill 0 gives a white box with a black number, or a black
 /// number in the one-month view. The template has no year's days and is left as it is. `day` is the number
 /// printed, 1..31.

@@ -121,9 +121,7 @@ void LoadNextYear() {
 
 /// The items act on the selected date, whichever way it was selected: by a click or, since then, with a view.
 void EnableItemsOfSelection() {
-    for (const ShownMonth& shown : ShownMonths)
-        if (shown.year == YearOf(SelectedDate) && shown.month == MonthOf(SelectedDate) - 1)
-            EnableMarkItems(shown.slot, CellOf(SelectedDate));
+    if (const ShownMonth* shown = ShownMonthOf(SelectedDate)) EnableMarkItems(shown->slot, CellOf(SelectedDate));
 }
 
 void FinishView(const std::string& caption) {

@@ -36,9 +36,8 @@ void CalendarTest::show(int view, int year, int month, int day) const {
 }
 
 namespace {
-const ShownMonth& ShownMonthOf(Date date) {
-    for (const ShownMonth& shown : ShownMonths)
-        if (shown.year == YearOf(date) && shown.month == MonthOf(date) - 1) return shown;
+const ShownMonth& MonthOnDisplay(Date date) {
+    if (const ShownMonth* month = ShownMonthOf(date)) return *month;
     throw std::logic_error("the month is not on display");
 }
 }  // namespace
@@ -46,17 +45,17 @@ const ShownMonth& ShownMonthOf(Date date) {
 bool CalendarTest::click(int year, int month, int day) {
     const Date date = MakeDate(year, month, day);
     const Cell cell = CellOf(date);
-    return SelectAt(ShownMonthOf(date), cell.column + 0.5, cell.row + 1.25);
+    return SelectAt(MonthOnDisplay(date), cell.column + 0.5, cell.row + 1.25);
 }
 
 Color CalendarTest::painted(int year, int month, int day) {
     const Cell cell = CellOf(MakeDate(year, month, day));
-    return ShownMonthOf(MakeDate(year, month, day))
+    return MonthOnDisplay(MakeDate(year, month, day))
         .painted[static_cast<std::size_t>(cell.column)][static_cast<std::size_t>(cell.row)];
 }
 
 std::string CalendarTest::hoverText(int year, int month, int day) {
     const Date date = MakeDate(year, month, day);
     const Cell cell = CellOf(date);
-    return HoverAt(ShownMonthOf(date), cell.column + 0.5, cell.row + 1.25).text;
+    return HoverAt(MonthOnDisplay(date), cell.column + 0.5, cell.row + 1.25).text;
 }
