@@ -69,9 +69,8 @@ void SetOriginalText(std::string text) {
 
 // -- Saving ---------------------------------------------------------------------------------------------------------
 
-/// Puts the text in place of whatever the tables hold for the open date: one note, or a new one.
-void StoreText(Year slot, const std::string& text) {
-    NotesOfYear& notes = Notes.years[slot];
+/// Puts the text in place of whatever these tables hold for the open date: one note, or a new one.
+void StoreText(NotesOfYear& notes, const std::string& text) {
     const std::string key = FormatDate(Notes.openDate, "mm/dd/yy");
     const auto found = std::find(notes.dates.begin(), notes.dates.end(), key);
     notes.current = static_cast<int>(found - notes.dates.begin());
@@ -143,14 +142,10 @@ bool Save(Year slot) {
     const auto text = NoteEditor.textToSave ? NoteEditor.textToSave() : std::string();
     if (!text || !MayTurnIntoLineBreaks(*text, "note")) return false;
     // What could not be written must not go out with the next save: the user may yet give it up.
-    const NotesOfYear before = Notes.years[slot];
-    try {
-        StoreText(slot, *text);
-        WriteNotes(Notes.years[slot]);
-    } catch (...) {
-        Notes.years[slot] = before;
-        throw;
-    }
+    NotesOfYear changed = Notes.years[slot];
+    StoreText(changed, *text);
+    WriteNotes(changed);
+    Notes.years[slot] = std::move(changed);
     SetOriginalText(*text);
     NotesChanged = false;
     return true;
