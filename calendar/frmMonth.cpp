@@ -102,7 +102,6 @@ void frmMonth::layOutLeftPanel() {
     for (int i = 0; i < 36; ++i)
         lblTTT[static_cast<std::size_t>(i)]->setGeometry(4, scaled(LabelPitch * i), picTTT->width() - 8,
                                                          scaled(LabelPitch));
-    showLabels();
     VScroll1->setValue(0);
     VScroll1_Change(0);
 }
