@@ -24,8 +24,8 @@ std::string Encoded(const QString& shown, QStringList& misfits) {
         const int code = CodeOf(character);
         text += code < 0 ? '?' : static_cast<char>(code);
         if (code >= 0 || misfits.size() > MostNames) continue;
-        const QString name = misfits.size() < MostNames ? NameOf(character) : QStringLiteral("...");
-        if (!misfits.contains(NameOf(character))) misfits << name;
+        const QString name = NameOf(character);
+        if (!misfits.contains(name)) misfits << (misfits.size() < MostNames ? name : QStringLiteral("..."));
     }
     return text;
 }
