@@ -187,9 +187,9 @@ QLayout* frmColors::paletteLayout() {
 
 void frmColors::layOut() {
     auto* bar = Named(new QMenuBar, QStringLiteral("MenuBar"), QStringLiteral("Menus"));
-    menus_.build(bar, {{QStringLiteral("mnuEdit"), QStringLiteral("&Edit"), {}},
-                       {QStringLiteral("mnuEditCaption"), QStringLiteral("Change Category &Caption"),
-                        QStringLiteral("mnuEdit"), [this] { mnuEditCaption_Click(); }, false, Qt::Key_F2}});
+    menus_.build(bar, {Without("mnuEdit", "&Edit", ""), With(
+                                                            "mnuEditCaption", "Change Category &Caption", "mnuEdit",
+                                                            [this] { mnuEditCaption_Click(); }, Qt::Key_F2)});
     auto* columns = new QHBoxLayout;
     columns->setSpacing(20);
     columns->addLayout(categoriesLayout(), 3);

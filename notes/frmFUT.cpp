@@ -100,23 +100,17 @@ void frmFUT::makeControls() {
 }
 
 void frmFUT::buildMenus() {
-    const QString file = QStringLiteral("mnuFile");
-    const QString edit = QStringLiteral("mnuEdit");
-    const QString window = QStringLiteral("mnuWindow");
     menus_.build(
         new QMenuBar(this),
-        {{file, QStringLiteral("&File"), {}},
-         {QStringLiteral("mnuFileShowAll"), QStringLiteral("Show All Frequent Terms Files"), file, ShowTermsFiles},
-         {QStringLiteral("mnuFileNewFUT"), QStringLiteral("Create &New Frequent Terms File"), file,
-          [this] { mnuFileNewFUT_Click(); }},
-         {QStringLiteral("mnuFileDelete"), QStringLiteral("Delete this Frequent Terms List"), file, DeleteTermsFile},
-         {QStringLiteral("mnuFileDefaultFUT"), QStringLiteral("Make this the Default Frequent Terms List"), file,
-          MakeTermsFileDefault},
-         {edit, QStringLiteral("&Edit"), {}},
-         {QStringLiteral("mnuEditClear"), QStringLiteral("Delete all Items in this List"), edit, ClearTerms},
-         {window, QStringLiteral("&Window"), {}},
-         {QStringLiteral("mnuWindowSavePosition"), QStringLiteral("Save Window Position and Size"), window,
-          [this] { mnuWindowSavePosition_Click(); }}});
+        {Without("mnuFile", "&File", ""),
+         With("mnuFileShowAll", "Show All Frequent Terms Files", "mnuFile", ShowTermsFiles),
+         With("mnuFileNewFUT", "Create &New Frequent Terms File", "mnuFile", [this] { mnuFileNewFUT_Click(); }),
+         With("mnuFileDelete", "Delete this Frequent Terms List", "mnuFile", DeleteTermsFile),
+         With("mnuFileDefaultFUT", "Make this the Default Frequent Terms List", "mnuFile", MakeTermsFileDefault),
+         Without("mnuEdit", "&Edit", ""), With("mnuEditClear", "Delete all Items in this List", "mnuEdit", ClearTerms),
+         Without("mnuWindow", "&Window", ""),
+         With("mnuWindowSavePosition", "Save Window Position and Size", "mnuWindow",
+              [this] { mnuWindowSavePosition_Click(); })});
 }
 
 void frmFUT::layOut() {

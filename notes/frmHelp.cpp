@@ -63,8 +63,7 @@ frmHelp::frmHelp() : Window("frmHelp", QStringLiteral("Tasmoro Help")) {
 
 void frmHelp::layOut() {
     auto* bar = new QMenuBar(this);
-    menus_.build(bar,
-                 {{QStringLiteral("mnuHelp"), QStringLiteral("&Help on Search"), {}, [this] { mnuHelp_Click(); }}});
+    menus_.build(bar, {With("mnuHelp", "&Help on Search", "", [this] { mnuHelp_Click(); })});
     (new QVBoxLayout(framTopics))->addWidget(lstHelp);
     (new QVBoxLayout(framDesc))->addWidget(txtHelp);
     auto* search = new QHBoxLayout(framSearch);

@@ -61,21 +61,18 @@ frmNotes::frmNotes() : Window("frmNotes", QStringLiteral("Notes")) {
 frmNotes::~frmNotes() { NotesWindowOpen = OpenedWindow<frmNotes>() != nullptr; }
 
 void frmNotes::buildMenus() {
-    const QString file = QStringLiteral("mnuFile");
-    const QString edit = QStringLiteral("mnuEdit");
-    const QString preferences = QStringLiteral("mnuPref");
-    menus_.build(
-        new QMenuBar(this),
-        {{file, QStringLiteral("&File"), {}},
-         {QStringLiteral("mnuFileSave"), QStringLiteral("&Save"), file, [this] { save(); }, false, QKeySequence::Save},
-         {QStringLiteral("mnuFilePrint"), QStringLiteral("&Print"), file, [this] { mnuFilePrint_Click(); }, false,
-          QKeySequence::Print},
-         {edit, QStringLiteral("&Edit"), {}},
-         {QStringLiteral("mnuEditSearchAgain"), QStringLiteral("Search A&gain"), edit,
-          [this] { mnuEditSearchAgain_Click(); }, false, QKeySequence(Qt::CTRL | Qt::Key_G)},
-         {preferences, QStringLiteral("&Preferences"), {}},
-         {QStringLiteral("mnuPrefFut"), QStringLiteral("Adjust &FUT Preferences"), preferences,
-          [] { ShowWindow<frmPref>(); }}});
+    menus_.build(new QMenuBar(this),
+                 {Without("mnuFile", "&File", ""),
+                  With(
+                      "mnuFileSave", "&Save", "mnuFile", [this] { save(); }, QKeySequence::Save),
+                  With(
+                      "mnuFilePrint", "&Print", "mnuFile", [this] { mnuFilePrint_Click(); }, QKeySequence::Print),
+                  Without("mnuEdit", "&Edit", ""),
+                  With(
+                      "mnuEditSearchAgain", "Search A&gain", "mnuEdit", [this] { mnuEditSearchAgain_Click(); },
+                      Qt::CTRL | Qt::Key_G),
+                  Without("mnuPref", "&Preferences", ""),
+                  With("mnuPrefFut", "Adjust &FUT Preferences", "mnuPref", [] { ShowWindow<frmPref>(); })});
 }
 
 // -- The note -------------------------------------------------------------------------------------------------------

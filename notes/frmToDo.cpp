@@ -34,20 +34,16 @@ frmToDo::frmToDo() : Window("frmToDo", QStringLiteral("To Do List")) {
 }
 
 void frmToDo::buildMenus() {
-    const QString file = QStringLiteral("mnuFile");
-    const QString options = QStringLiteral("mnuOpt");
-    auto* bar = new QMenuBar(this);
-    menus_.build(bar, {{file, QStringLiteral("&File"), {}},
-                       {QStringLiteral("mnuFileSave"), QStringLiteral("Save"), file, [this] { save(); }, false,
-                        QKeySequence::Save},
-                       {QStringLiteral("mnuFileSaveAs"), QStringLiteral("Save &As"), file},
-                       {QStringLiteral("mnuFilePrint"), QStringLiteral("&Print"), file,
-                        [this] { mnuFilePrint_Click(); }, false, QKeySequence::Print},
-                       {options, QStringLiteral("Options"), {}},
-                       {QStringLiteral("mnuOptMoveUp"), QStringLiteral("Move Contents Up One Line"), options,
-                        [this] { mnuOptMoveUp_Click(); }},
-                       {QStringLiteral("mnuOptMoveDown"), QStringLiteral("Move Contents Down One Line"), options,
-                        [this] { mnuOptMoveDown_Click(); }}});
+    menus_.build(new QMenuBar(this),
+                 {Without("mnuFile", "&File", ""),
+                  With(
+                      "mnuFileSave", "Save", "mnuFile", [this] { save(); }, QKeySequence::Save),
+                  Without("mnuFileSaveAs", "Save &As", "mnuFile"),
+                  With(
+                      "mnuFilePrint", "&Print", "mnuFile", [this] { mnuFilePrint_Click(); }, QKeySequence::Print),
+                  Without("mnuOpt", "Options", ""),
+                  With("mnuOptMoveUp", "Move Contents Up One Line", "mnuOpt", [this] { mnuOptMoveUp_Click(); }),
+                  With("mnuOptMoveDown", "Move Contents Down One Line", "mnuOpt", [this] { mnuOptMoveDown_Click(); })});
 }
 
 void frmToDo::makeRow(int row) {

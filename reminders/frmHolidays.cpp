@@ -58,12 +58,12 @@ void frmHolidays::makeControls() {
 }
 
 void frmHolidays::buildMenus() {
-    const QString file = QStringLiteral("mnuFile");
-    menus.build(new QMenuBar(this), {{file, QStringLiteral("&File"), {}},
-                                     {QStringLiteral("mnuFileNew"), QStringLiteral("&New Holiday List"), file,
-                                      [this] { mnuFileNew_Click(); }, false, QKeySequence::New},
-                                     {QStringLiteral("mnuFileSave"), QStringLiteral("&Save"), file,
-                                      [this] { mnuFileSave_Click(); }, false, QKeySequence::Save}});
+    menus.build(new QMenuBar(this),
+                {Without("mnuFile", "&File", ""),
+                 With(
+                     "mnuFileNew", "&New Holiday List", "mnuFile", [this] { mnuFileNew_Click(); }, QKeySequence::New),
+                 With(
+                     "mnuFileSave", "&Save", "mnuFile", [this] { mnuFileSave_Click(); }, QKeySequence::Save)});
 }
 
 void frmHolidays::layOut() {

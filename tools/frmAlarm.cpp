@@ -69,17 +69,12 @@ frmAlarm::frmAlarm() : Window("frmAlarm", QStringLiteral("Brisk Alarm Clock")) {
 }
 
 void frmAlarm::buildMenus() {
-    const QString help = QStringLiteral("mnuHelp");
-    const QString about = QStringLiteral("mnuHelpAbout");
-    auto* bar = new QMenuBar(this);
-    menus_.build(bar,
-                 {{help, QStringLiteral("&Help"), {}},
-                  {QStringLiteral("mnuHelpHowTo"), QStringLiteral("How to Use..."), help, [] { ShowMessage(HowTo); }},
-                  {about, QStringLiteral("&About"), help},
-                  {QStringLiteral("mnuHelpAboutAlarm"), QStringLiteral("About the Alarm Clock"), about,
-                   [] { ShowMessage(AboutAlarm); }},
-                  {QStringLiteral("mnuHelpAboutProgram"), QStringLiteral("About Tasmoro"), about,
-                   [] { ShowMessage(AboutTasmoro); }}});
+    menus_.build(
+        new QMenuBar(this),
+        {Without("mnuHelp", "&Help", ""), With("mnuHelpHowTo", "How to Use...", "mnuHelp", [] { ShowMessage(HowTo); }),
+         Without("mnuHelpAbout", "&About", "mnuHelp"),
+         With("mnuHelpAboutAlarm", "About the Alarm Clock", "mnuHelpAbout", [] { ShowMessage(AboutAlarm); }),
+         With("mnuHelpAboutProgram", "About Tasmoro", "mnuHelpAbout", [] { ShowMessage(AboutTasmoro); })});
 }
 
 void frmAlarm::makeButtons() {
